@@ -1,0 +1,95 @@
+// The rich-text control as the logic sees it: plain text, selection, character format at the selection, revision.
+//
+// Plain text has CR LF line ends; a break inside a paragraph (U+2028) is a line end like any other. Positions and
+// lengths are code points of that plain text, so a line end counts two and an emoji one. A no-break space is a
+// character of its own, never a blank. Text that enters is composed (NFC) by the control, and loses the characters that
+// stand for no text (isTextCharacter()).
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <string_view>
+
+namespace base {
+
+struct TextSelection {
+  std::int64_t start = 0;
+  std::int64_t length = 0;
+
+  bool operator==(const TextSelection&) const = default;
+};
+
+/// `selection` without what lies outside a text of `length` code points.
+constexpr TextSelection clipped(TextSelection selection, std::int64_t length) {
+  const std::int64_t room = std::numeric_limits<std::int64_t>::max() - std::max<std::int64_t>(selection.start, 0);
+  const std::int64_t end = selection.start + std::clamp<std::int64_t>(selection.length, 0, room);
+  const std::int64_t start = std::clamp<std::int64_t>(selection.start, 0, length);
+  return {start, std::clamp<std::int64_t>(end, start, length) - start};
+}
+
+/// False for what never enters a text: NUL, the mark of an embedded object, and the noncharacters that rich-text
+/// controls use to mark frames.
+constexpr bool isTextCharacter(char32_t c) { return c != 0 && c != 0xFFFC && !(c >= 0xFDD0 && c <= 0xFDEF); }
+
+/// What the calculation needs of a text: its code points without line ends, and how many of those are blanks (U+0020).
+struct TextCount {
+  std::int64_t characters = 0;
+  std::int64_t blanks = 0;
+  std::int64_t lineEnds = 0;
+
+  bool operator==(const TextCount&) const = default;
+};
+
+/// The format of characters.
+struct CharFormat {
+  std::string family = "Arial";
+  double points = 8;
+  bool bold = false;
+  bool italic = false;
+  bool underline = false;
+
+  bool operator==(const CharFormat&) const = default;
+};
+
+/// Where the caret stands, which is at the end of what select() selected: line and column, both from 1, lines as line
+/// ends part them, columns in code points.
+struct Caret {
+  std::int64_t line = 1;
+  std::int64_t column = 1;
+
+  bool operator==(const Caret&) const = default;
+};
+
+class RichText {
+ public:
+  virtual ~RichText() = default;
+
+  [[nodiscard]] virtual std::string plainText() const = 0;
+  /// Replaces the whole text; line ends of any kind become CR LF, the selection is at the start, the format stays.
+  virtual void setPlainText(std::string_view text) = 0;
+
+  [[nodiscard]] virtual TextSelection selection() const = 0;
+  /// Selects; what lies outside the text is cut off. A position between CR and LF moves behind the LF.
+  virtual void select(TextSelection selection) = 0;
+  [[nodiscard]] virtual std::string selectedText() const = 0;
+  /// Puts `text` in the place of the selection as if it had been typed; the caret is behind it.
+  virtual void replaceSelection(std::string_view text) = 0;
+
+  /// Counts without copying the text: the whole text is counted as it changes, not when it is asked.
+  [[nodiscard]] virtual TextCount countAll() const = 0;
+  [[nodiscard]] virtual TextCount countSelection() const = 0;
+
+  /// The format of the first selected character; with nothing selected that of what is typed next, which is that of
+  /// the character before the caret or, at the start of a line, behind it.
+  [[nodiscard]] virtual CharFormat format() const = 0;
+  /// Gives the selection, or what is typed next when nothing is selected, this format.
+  virtual void setFormat(const CharFormat& format) = 0;
+
+  [[nodiscard]] virtual Caret caret() const = 0;
+  /// Grows with every change of the text; a change of format alone may count as one.
+  [[nodiscard]] virtual std::uint64_t revision() const = 0;
+};
+
+}  // namespace base
