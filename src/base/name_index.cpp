@@ -1,0 +1,111 @@
+// Names that match without regard to letter case, and an index that finds them in a list of lines or sections.
+#include "base/name_index.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace base {
+namespace {
+
+// The letters from À to Þ are C3 80 to C3 9E in UTF-8; the × among them has no small form.
+constexpr unsigned char kLatin1Lead = 0xC3;
+
+// The bytes of a name one by one, as they are in small letters.
+class SmallLetters {
+ public:
+  unsigned char operator()(char next) {
+    const auto byte = static_cast<unsigned char>(next);
+    const bool afterLead = previous_ == kLatin1Lead;
+    previous_ = byte;
+    if (byte >= 'A' && byte <= 'Z') return byte | 0x20U;
+    if (afterLead && byte >= 0x80 && byte <= 0x9E && byte != 0x97) return byte | 0x20U;
+    return byte;
+  }
+
+ private:
+  unsigned char previous_ = 0;
+};
+
+// Up to eight bytes of a name as a number. In small and in capital letters it is the same: they differ in one bit only,
+// in Latin-1 too, and what else differs in that bit alone meets the same number without harm.
+template <typename Word>
+std::uint64_t wordAt(const char* bytes) {
+  constexpr std::uint64_t kSmallLetterBits = 0x2020202020202020U;
+  Word word = 0;
+  std::memcpy(&word, bytes, sizeof word);
+  return word | kSmallLetterBits;
+}
+
+std::uint64_t mixed(std::uint64_t hash, std::uint64_t word) {
+  hash = (hash ^ word) * 0x9E3779B97F4A7C15U;
+  return hash ^ (hash >> 32U);
+}
+
+// The keys of long sections are numbers, counted up from 0 and asked for one after the other. As their own hash they
+// stand in the index in that order, every other slot left to other names.
+std::optional<std::uint32_t> numberOf(std::string_view name) {
+  constexpr std::size_t kMostDigits = 9;
+  if (name.empty() || name.size() > kMostDigits) return std::nullopt;
+  std::uint32_t number = 0;
+  for (const char byte : name) {
+    if (byte < '0' || byte > '9') return std::nullopt;
+    number = 10 * number + static_cast<std::uint32_t>(byte - '0');
+  }
+  return number;
+}
+
+}  // namespace
+
+bool sameButForCase(std::string_view a, std::string_view b) {
+  SmallLetters smallA;
+  SmallLetters smallB;
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(), [&](char x, char y) { return smallA(x) == smallB(y); });
+}
+
+std::uint32_t nameHash(std::string_view name) {
+  if (const std::optional<std::uint32_t> number = numberOf(name)) return 2 * *number;
+  std::uint64_t hash = name.size();
+  for (; name.size() >= 8; name.remove_prefix(8)) hash = mixed(hash, wordAt<std::uint64_t>(name.data()));
+  if (name.size() >= 4) {
+    hash = mixed(hash, wordAt<std::uint32_t>(name.data()));
+    name.remove_prefix(4);
+  }
+  for (const char byte : name) hash = mixed(hash, wordAt<std::uint8_t>(&byte));
+  return static_cast<std::uint32_t>(hash);
+}
+
+void NameIndex::reset(std::size_t count) {
+  std::size_t size = 16;
+  while (size < 2 * count) size *= 2;
+  slots_.assign(size, {});
+  taken_ = 0;
+}
+
+void NameIndex::add(std::string_view name, std::uint32_t position) {
+  if (2 * taken_ >= slots_.size()) grow();
+  place({nameHash(name), position});
+}
+
+void NameIndex::place(Slot slot) {
+  std::size_t at = slot.hash & mask();
+  while (slots_[at].position != kFree) at = (at + 1) & mask();
+  slots_[at] = slot;
+  ++taken_;
+}
+
+void NameIndex::grow() {
+  const std::vector<Slot> old = std::move(slots_);
+  reset(2 * taken_ + 1);
+  // From behind a free slot, so that equal names keep their order where they run over the end.
+  const auto isFree = [](const Slot& slot) { return slot.position == kFree; };
+  const auto start = std::find_if(old.begin(), old.end(), isFree);
+  const auto placeTaken = [&](const Slot& slot) {
+    if (!isFree(slot)) place(slot);
+  };
+  std::for_each(start, old.end(), placeTaken);
+  std::for_each(old.begin(), start, placeTaken);
+}
+
+}  // namespace base

@@ -1,0 +1,143 @@
+// Profile (INI) files: reading, changing and replacing them whole, byte for byte where nothing is changed.
+#include "base/profile_file.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/code_page.h"
+#include "base/profile_sections.h"
+#include "base/text.h"
+
+namespace base {
+namespace {
+
+std::string_view withoutPairOfQuotes(std::string_view text) {
+  const bool quoted = text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
+  return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
+std::string_view cutTo(std::size_t characters, std::string_view text) {
+  return text.size() <= characters ? text : firstCodePoints(text, characters);
+}
+
+std::string decoded(std::string bytes, bool hasMark, bool isCodePage1252) {
+  if (isCodePage1252) return fromCodePage1252(bytes);
+  if (hasMark) bytes.erase(0, kUtf8Mark.size());
+  return bytes;
+}
+
+}  // namespace
+
+struct ProfileFile::Content {
+  explicit Content(std::string bytes)
+      : hasMark(bytes.starts_with(kUtf8Mark)),
+        isCodePage1252(!hasMark && !isUtf8File(bytes)),
+        sections(std::in_place, decoded(std::move(bytes), hasMark, isCodePage1252)) {}
+
+  std::string_view asName(std::string_view text) { return withoutOuterBlanks(sections->asOneLine(text)); }
+  // As in a header, the name ends at the first "]".
+  std::string_view asSectionName(std::string_view text) { return asName(text.substr(0, text.find(']'))); }
+  // A name is looked for as it is given first: it hardly ever holds what asOneLine() has to replace.
+  ProfileSection* find(std::string_view section) {
+    ProfileSection* const place = sections->find(withoutOuterBlanks(section));
+    return place != nullptr ? place : sections->find(asSectionName(section));
+  }
+  ProfileSection& findOrAdd(std::string_view section) {
+    ProfileSection* const place = find(section);
+    return place != nullptr ? *place : sections->addSection(asSectionName(section));
+  }
+  ProfileLine* findEntry(std::string_view section, std::string_view key) {
+    ProfileSection* const place = find(section);
+    if (place == nullptr) return nullptr;
+    ProfileLine* const entry = ProfileSections::findEntry(*place, withoutOuterBlanks(key));
+    return entry != nullptr ? entry : ProfileSections::findEntry(*place, asName(key));
+  }
+  // A new text that is not the line it was meant to be makes other lines of the file something else too.
+  void readAgain() { sections.emplace(sections->text()); }
+
+  bool hasMark;
+  bool isCodePage1252;
+  bool isChanged = false;
+  std::optional<ProfileSections> sections;
+};
+
+ProfileFile::ProfileFile(std::unique_ptr<Content> content) : content_(std::move(content)) {}
+ProfileFile::ProfileFile(ProfileFile&&) noexcept = default;
+ProfileFile& ProfileFile::operator=(ProfileFile&&) noexcept = default;
+ProfileFile::~ProfileFile() = default;
+
+ProfileFile ProfileFile::load(const std::string& path) { return parse(readFile(path).value_or(std::string())); }
+
+ProfileFile ProfileFile::parse(std::string bytes) { return ProfileFile(std::make_unique<Content>(std::move(bytes))); }
+
+std::optional<std::string> ProfileFile::value(std::string_view section, std::string_view key,
+                                              std::size_t bufferSize) const {
+  const ProfileLine* const entry = content_->findEntry(section, key);
+  if (entry == nullptr || bufferSize == 0) return std::nullopt;
+  return std::string(cutTo(bufferSize - 1, withoutPairOfQuotes(valueOf(*entry))));
+}
+
+std::vector<std::string> ProfileFile::sectionLines(std::string_view section, std::size_t bufferSize) const {
+  std::vector<std::string> result;
+  const ProfileSection* const place = content_->find(section);
+  if (place == nullptr) return result;
+  std::size_t room = std::max<std::size_t>(bufferSize, 2) - 2;
+  for (const ProfileLine& line : place->lines) {
+    if (room == 0) break;
+    if (!line.isData()) continue;
+    result.emplace_back(cutTo(room, contentOf(line)));
+    room -= std::min(room, codePointCount(result.back()) + 1);
+  }
+  return result;
+}
+
+void ProfileFile::setValue(std::string_view section, std::string_view key, std::string_view value) {
+  ProfileSections& sections = *content_->sections;
+  content_->isChanged = true;
+  ProfileSection& place = content_->findOrAdd(section);
+  const std::string_view name = content_->asName(key);
+  if (ProfileLine* const entry = ProfileSections::findEntry(place, name)) {
+    sections.changeValue(*entry, sections.asOneLine(value));
+  } else if (!sections.addEntry(place, name, sections.asOneLine(value))) {
+    content_->readAgain();
+  }
+}
+
+void ProfileFile::deleteKey(std::string_view section, std::string_view key) {
+  ProfileLine* const entry = content_->findEntry(section, key);
+  if (entry == nullptr) return;
+  *entry = ProfileLine();
+  content_->isChanged = true;
+}
+
+void ProfileFile::deleteSection(std::string_view section) {
+  ProfileSection* const place = content_->find(section);
+  if (place == nullptr) return;
+  *place = ProfileSection();
+  content_->isChanged = true;
+}
+
+void ProfileFile::setSection(std::string_view section, std::span<const std::string> lines) {
+  const auto end = std::find_if(lines.begin(), lines.end(), [](const std::string& line) { return line.empty(); });
+  lines = lines.first(static_cast<std::size_t>(end - lines.begin()));
+  if (lines.empty() && content_->find(section) == nullptr) return;
+  content_->isChanged = true;
+  if (!content_->sections->setLines(content_->findOrAdd(section), lines)) content_->readAgain();
+}
+
+std::string ProfileFile::bytes() const {
+  std::string text = content_->sections->text();
+  if (content_->hasMark) return text.insert(0, kUtf8Mark);
+  if (!content_->isCodePage1252) return text;
+  // Bytes that happen to be UTF-8 would be read as such the next time.
+  const std::optional<std::string> encoded = toCodePage1252(text);
+  return encoded && (*encoded == text || !isUtf8File(*encoded)) ? *encoded : text;
+}
+
+void ProfileFile::save(const std::string& path) {
+  if (!content_->isChanged) return;
+  replaceFile(path, bytes());
+  content_->isChanged = false;
+}
+
+}  // namespace base

@@ -1,0 +1,160 @@
+// Reading and replacing files: what is kept, what is refused, and that nothing is lost or left over.
+#include "base/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <csignal>
+#include <filesystem>
+#include <functional>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "base/file_replacement.h"
+#include "support/temporary_directory.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using base::ErrorNumber;
+using support::TemporaryDirectory;
+
+long entriesOf(const TemporaryDirectory& directory) {
+  return std::distance(fs::directory_iterator(directory.path("")), fs::directory_iterator());
+}
+
+// The number of the failure of `action`, whose text has to name `file`.
+ErrorNumber failureOf(const std::string& file, const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const base::Failure& failure) {
+    EXPECT_EQ(failure.text(), base::errorText(failure.number()) + ": " + file);
+    return failure.number();
+  }
+  return ErrorNumber::none;
+}
+
+ErrorNumber failureOfReplacing(const std::string& file) {
+  return failureOf(file, [&] { base::replaceFile(file, "new"); });
+}
+
+TEST(ReplaceFile, NeverWritesToTheOldFile) {
+  const TemporaryDirectory directory;
+  directory.write("a.ini", "old");
+  fs::create_hard_link(directory.path("a.ini"), directory.path("old"));
+  base::replaceFile(directory.path("a.ini"), "new");
+  EXPECT_EQ(directory.read("a.ini"), "new");
+  EXPECT_EQ(directory.read("old"), "old");
+  EXPECT_EQ(entriesOf(directory), 2);
+}
+
+TEST(ReplaceFile, KeepsPermissions) {
+  const TemporaryDirectory directory;
+  directory.write("a.ini", "old");
+  for (const fs::perms permissions : {fs::perms(0600), fs::perms(0664), fs::perms(0666), fs::perms(0755)}) {
+    fs::permissions(directory.path("a.ini"), permissions);
+    base::replaceFile(directory.path("a.ini"), "new");
+    EXPECT_EQ(fs::status(directory.path("a.ini")).permissions(), permissions);
+  }
+}
+
+TEST(ReplaceFile, FollowsLinks) {
+  const TemporaryDirectory directory;
+  fs::create_directory(directory.path("real"));
+  directory.write("real/a.ini", "old");
+  fs::create_symlink("real/a.ini", directory.path("link"));
+  fs::create_symlink("link", directory.path("linkOfLink"));
+  fs::create_symlink("real/b.ini", directory.path("dangling"));
+  base::replaceFile(directory.path("linkOfLink"), "new");
+  base::replaceFile(directory.path("dangling"), "fresh");
+  EXPECT_TRUE(fs::is_symlink(directory.path("linkOfLink")) && fs::is_symlink(directory.path("dangling")));
+  EXPECT_EQ(directory.read("real/a.ini"), "new");
+  EXPECT_EQ(directory.read("real/b.ini"), "fresh");
+}
+
+TEST(ReplaceFile, OverwritesWhatAPowerCutLeftBehind) {
+  const TemporaryDirectory directory;
+  directory.write(".a.ini.neu", "half of a longer file");
+  base::replaceFile(directory.path("a.ini"), "new");
+  EXPECT_EQ(directory.read("a.ini"), "new");
+  EXPECT_EQ(entriesOf(directory), 1);
+}
+
+TEST(ReplaceFile, RefusesWhatIsNoWritableFile) {
+  const TemporaryDirectory directory;
+  directory.write("readonly", "old");
+  fs::permissions(directory.path("readonly"), fs::perms(0444));
+  fs::create_directory(directory.path("directory"));
+  EXPECT_EQ(failureOfReplacing(directory.path("readonly")), ErrorNumber::pathFileAccess);
+  EXPECT_EQ(failureOfReplacing(directory.path("directory")), ErrorNumber::pathFileAccess);
+  EXPECT_EQ(failureOfReplacing(directory.path("missing/a.ini")), ErrorNumber::pathNotFound);
+  EXPECT_EQ(failureOfReplacing(directory.path("readonly/a.ini")), ErrorNumber::pathNotFound);
+  EXPECT_EQ(failureOfReplacing(""), ErrorNumber::badFileName);
+  EXPECT_EQ(failureOfReplacing(directory.path(std::string(300, 'x'))), ErrorNumber::badFileName);
+  fs::create_symlink("loop", directory.path("loop"));
+  EXPECT_EQ(failureOfReplacing(directory.path("loop")), ErrorNumber::pathFileAccess);
+  EXPECT_EQ(directory.read("readonly"), "old");
+  EXPECT_EQ(entriesOf(directory), 3);
+}
+
+// A limit on the size of files stands for a full disk: the write fails half-way.
+TEST(ReplaceFile, LeavesTheOldFileWhenTheDiskIsFull) {
+  const TemporaryDirectory directory;
+  directory.write("a.ini", "old");
+  rlimit before{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+  rlimit limit = before;
+  limit.rlim_cur = 4096;
+  auto* const handler = std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &limit);
+  const std::string file = directory.path("a.ini");
+  const ErrorNumber number = failureOf(file, [&] { base::replaceFile(file, std::string(100'000, 'x')); });
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ(number, ErrorNumber::diskFull);
+  EXPECT_EQ(directory.read("a.ini"), "old");
+  EXPECT_EQ(entriesOf(directory), 1);
+}
+
+TEST(ReadFile, TellsMissingFromUnreadable) {
+  const TemporaryDirectory directory;
+  directory.write("empty", "");
+  directory.write("big", std::string(300'000, 'x'));
+  EXPECT_EQ(base::readFile(directory.path("empty")), "");
+  EXPECT_EQ(base::readFile(directory.path("big")), std::string(300'000, 'x'));
+  EXPECT_EQ(base::readFile(directory.path("missing")), std::nullopt);
+  EXPECT_EQ(base::readFile(directory.path("empty/missing")), std::nullopt);
+  EXPECT_EQ(failureOf(directory.path(""), [&] { static_cast<void>(base::readFile(directory.path(""))); }),
+            ErrorNumber::pathFileAccess);
+}
+
+TEST(FileExists, IsTrueForNormalFilesOnly) {
+  const TemporaryDirectory directory;
+  directory.write("file", "");
+  fs::create_symlink("file", directory.path("link"));
+  fs::create_symlink("missing", directory.path("dangling"));
+  EXPECT_TRUE(base::fileExists(directory.path("file")) && base::fileExists(directory.path("link")));
+  for (const char* name : {"", "missing", "dangling", "file/below"}) {
+    EXPECT_FALSE(base::fileExists(directory.path(name))) << name;
+  }
+}
+
+TEST(JoinPath, TakesTheSeparatorOfTheDirectory) {
+  const std::vector<std::vector<std::string>> rows = {
+      {"/home/a", "/home/a/x.ini"},
+      {"/", "/x.ini"},
+      {"/home/a/", "/home/a/x.ini"},
+      {"a", "a/x.ini"},
+      {"C:\\", "C:\\x.ini"},
+      {"C:", "C:\\x.ini"},
+      {"C:\\a", "C:\\a\\x.ini"},
+      {"a\\b", "a\\b\\x.ini"},
+      {"c:/a/", "c:/a/x.ini"},
+      {"/a\\", "/a\\/x.ini"},
+      {"", "x.ini"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(base::joinPath(row[0], "x.ini"), row[1]);
+}
+
+}  // namespace

@@ -1,0 +1,177 @@
+// Profile files where the recorded rows do not reach: blanks, line ends, encodings, and what stays untouched.
+#include "base/profile_file.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "support/temporary_directory.h"
+
+namespace {
+
+using base::ProfileFile;
+using Lines = std::vector<std::string>;
+
+struct Reading {
+  const char* title;
+  std::string file;
+  const char* section;
+  const char* key;
+  std::optional<std::string> value;
+};
+
+TEST(ProfileFile, ReadsValues) {
+  using namespace std::string_literals;
+  const std::vector<Reading> readings = {
+      {"VT and FF are blanks", "\v[\fs ]\n\f a\v=\vx\f\n", "s", "a", "x"},
+      {"a no-break space is none", "[s]\na=\u00A0x\n", "s", "a", "\u00A0x"},
+      {"text behind the header is ignored", "[s] ]x=1\na=2", "s", "a", "2"},
+      {"a header may lack its bracket", "[s \na=2", "s", "a", "2"},
+      {"a number sign starts no comment", "[s]\n#a=1", "s", "#a", "1"},
+      {"names match without regard to case", "[VERSALIENHÖHE]\nMaßeinheit=mm", "Versalienhöhe", "MAßEINHEIT", "mm"},
+      {"names match in code page 1252", "[\xC4\xD6\xDC]\n\xE9t\xE9=1", "äöü", "ÉTÉ", "1"},
+      {"× and ÷ are no letters", "[s]\n×=1", "s", "÷", std::nullopt},
+      {"names are trimmed as those in the file", "[s]\na=1", " s\t", " a ", "1"},
+      {"the first section counts alone", "[s]\na=1\n[S]\nb=2", "s", "b", std::nullopt},
+      {"an empty value is not missing", "[s]\na=", "s", "a", ""},
+      {"a line without = is no key", "[s]\na", "s", "a", std::nullopt},
+      {"a single quote is no pair", "[s]\na=\"", "s", "a", "\""},
+      {"unequal quotes stay", "[s]\na='x\"", "s", "a", "'x\""},
+      {"a mark in front is no text", "\xEF\xBB\xBF[s]\na=ß", "s", "a", "ß"},
+      {"NUL is a character", "[s]\na=x\0y\n\0=2"s, "s", "a", "x\0y"s},
+      {"line ends may be mixed", "[s]\ra=1\r\n\nb=2\rc=3\n", "s", "c", "3"},
+      {"a file of nothing", "", "s", "a", std::nullopt},
+  };
+  for (const Reading& row : readings) {
+    EXPECT_EQ(ProfileFile::parse(row.file).value(row.section, row.key, 255), row.value) << row.title;
+  }
+}
+
+TEST(ProfileFile, CutsToCharactersAfterQuotesAreGone) {
+  const ProfileFile file = ProfileFile::parse("[s]\na=\"ä 🙂 x\"\n");
+  EXPECT_EQ(file.value("s", "a", 4), "ä 🙂");
+  EXPECT_EQ(file.value("s", "a", 3), "ä ");
+  EXPECT_EQ(file.value("s", "a", 6), "ä 🙂 x");
+}
+
+TEST(ProfileFile, ReadsSections) {
+  const ProfileFile file = ProfileFile::parse("p\n[s]\n; c\n\n a = \"x\" \nplain\n #h\n[t]\n");
+  EXPECT_EQ(file.sectionLines("S"), (Lines{"a = \"x\"", "plain", "#h"}));
+  EXPECT_EQ(file.sectionLines("s", 10), (Lines{"a = \"x\""}));
+  EXPECT_EQ(file.sectionLines("s", 12), (Lines{"a = \"x\"", "pl"}));
+  EXPECT_EQ(file.sectionLines("t"), Lines());
+}
+
+struct Change {
+  const char* title;
+  std::string before;
+  std::function<void(ProfileFile&)> change;
+  std::string after;
+};
+
+void expectChanges(const std::vector<Change>& rows) {
+  for (const Change& row : rows) {
+    ProfileFile file = ProfileFile::parse(row.before);
+    row.change(file);
+    EXPECT_EQ(file.bytes(), row.after) << row.title;
+  }
+}
+
+void setA(ProfileFile& file) { file.setValue("s", "a", "1"); }
+
+TEST(ProfileFile, ChangesValuesAndNothingElse) {
+  expectChanges({
+      {"a fresh file", "", setA, "[s]\r\na=1\r\n"},
+      {"a file of LF", "x\n[t]\n", setA, "x\n[t]\n[s]\na=1\n"},
+      {"a file of CR", "[s]\rb=2\r", setA, "[s]\rb=2\ra=1\r"},
+      {"a changed line keeps its line end", "[s]\nA=0\r\nb=2", setA, "[s]\nA=1\r\nb=2"},
+      {"a last line without end stays so", "[s]\na=0", setA, "[s]\na=1"},
+      {"indentation and the spelling of names stay", "\t[ S ] x\n  A\t= 0 ;y\n", setA, "\t[ S ] x\n  A\t= 1\n"},
+      {"a new key stands before blank lines and comments", "[s]\nx\n\n;c\n\n[t]", setA, "[s]\nx\na=1\n\n;c\n\n[t]"},
+      {"a key of a section without data", "[s]\n;c\n", setA, "[s]\na=1\n;c\n"},
+      {"missing line ends are supplied", "[s]", setA, "[s]\r\na=1\r\n"},
+      {"the mark stays", "\xEF\xBB\xBF;x\n", setA, "\xEF\xBB\xBF;x\n[s]\na=1\n"},
+      {"of equal keys the first", "[s]\na=2\na=3\n[s]\na=4\n", setA, "[s]\na=1\na=3\n[s]\na=4\n"},
+      {"line ends in texts become blanks", "", [](ProfileFile& file) { file.setValue("s\n", "a\rb", "1\r\n2"); },
+       "[s]\r\na b=1  2\r\n"},
+      {"ill-formed bytes become replacements", "[s]\nb=ä\n", [](ProfileFile& file) { file.setValue("s", "a", "\xE4"); },
+       "[s]\nb=ä\na=\uFFFD\n"},
+      {"keys are deleted with their lines", "[s]\na=1\n;c\nb=2\n",
+       [](ProfileFile& file) { file.deleteKey("s", "A"), file.deleteKey("s", "c"); }, "[s]\n;c\nb=2\n"},
+  });
+}
+
+TEST(ProfileFile, ChangesSections) {
+  const auto write = [](Lines lines) { return [lines](ProfileFile& file) { file.setSection("S", lines); }; };
+  expectChanges({
+      {"replaced in place", "[s]x\n;c\na=1\n\n[t]\n", write({" a ", ";d"}), "[s]x\n a \n;d\n[t]\n"},
+      {"no data leaves the header", "[s]\na=1\n[t]\n", write({"", "b"}), "[s]\n[t]\n"},
+      {"no data creates nothing", "[t]\n", write({}), "[t]\n"},
+      {"a new one at the end", "[t]", write({"b\n", "c"}), "[t]\r\n[S]\r\nb \r\nc\r\n"},
+      {"deleted with comments, the first one only", ";p\n[s]\n;c\n\n[t]\n[s]\nx\n",
+       [](ProfileFile& file) { file.deleteSection("S"); }, ";p\n[t]\n[s]\nx\n"},
+      {"deleted and written again", "[s]\na=0\n[t]\n", [](ProfileFile& file) { file.deleteSection("s"), setA(file); },
+       "[t]\n[s]\na=1\n"},
+  });
+}
+
+TEST(ProfileFile, KnowsOfItsChangesWhatAReaderWould) {
+  ProfileFile file = ProfileFile::parse("[s]\na=1\n");
+  file.setSection("s", Lines{"b=2", "[t]", "c=3"});
+  EXPECT_EQ(file.value("s", "c", 255), std::nullopt);
+  EXPECT_EQ(file.value("t", "c", 255), "3");
+  file.setValue("t", "d=4", "5");
+  EXPECT_EQ(file.value("t", "d", 255), "4=5");
+  file.setValue("s]", "b", "6");
+  EXPECT_EQ(file.bytes(), "[s]\nb=6\n[t]\nc=3\nd=4=5\n");
+}
+
+TEST(ProfileFile, FindsEveryKeyWhileTheyComeAndGo) {
+  ProfileFile file = ProfileFile::parse("[s]\nx=0\nx=1\n");
+  for (int i = 0; i < 3000; ++i) file.setValue("s", "key" + std::to_string(i), std::to_string(i));
+  for (int i = 0; i < 3000; ++i) file.setValue("s", std::to_string(i), std::to_string(-i));
+  for (int i = 0; i < 3000; i += 2) file.deleteKey("s", "KEY" + std::to_string(i));
+  for (int i = 0; i < 3000; ++i) {
+    const std::string number = std::to_string(i);
+    EXPECT_EQ(file.value("s", "Key" + number, 255), i % 2 == 0 ? std::nullopt : std::optional(number));
+    EXPECT_EQ(file.value("s", number, 255), std::to_string(-i));
+  }
+  EXPECT_EQ(file.value("s", "X", 255), "0");
+  file.deleteKey("s", "x");
+  EXPECT_EQ(file.value("s", "x", 255), "1");
+}
+
+TEST(ProfileFile, KeepsTheEncodingOfTheFile) {
+  const auto set = [](const char* value) { return [value](ProfileFile& file) { file.setValue("s", "a", value); }; };
+  std::string everyByte = ";";
+  for (int byte = 1; byte < 256; ++byte) everyByte += static_cast<char>(byte);
+  expectChanges({
+      {"every byte of code page 1252", everyByte + "\n", set("1"), everyByte + "\n[s]\na=1\n"},
+      {"new text in code page 1252", ";\xE4\n[s]\n", set("ß€"), ";\xE4\n[s]\na=\xDF\x80\n"},
+      {"text that does not fit", ";\xE4\x80\n[s]\n", set("Ω"), ";ä€\n[s]\na=Ω\n"},
+      {"bytes that would read as UTF-8", "[s]\na=\xE4\n", set("Ã¤"), "[s]\na=Ã¤\n"},
+      {"ASCII becomes UTF-8", "[s]\n", set("ß"), "[s]\na=ß\n"},
+  });
+}
+
+TEST(ProfileFile, ReadsAndChangesVeryLongLines) {
+  const std::string value(1'000'000, 'x');
+  ProfileFile file = ProfileFile::parse("[s]\na=" + value + "\nb=2\n");
+  EXPECT_EQ(file.value("s", "a", 2'000'000), value);
+  file.setValue("s", "b", value + value);
+  EXPECT_EQ(file.bytes(), "[s]\na=" + value + "\nb=" + value + value + "\n");
+}
+
+TEST(ProfileFile, DeletingWhatIsMissingWritesNothing) {
+  const support::TemporaryDirectory directory;
+  ProfileFile file = ProfileFile::load(directory.path("missing/x.ini"));
+  file.deleteKey("s", "a");
+  file.deleteSection("s");
+  file.save(directory.path("missing/x.ini"));
+  EXPECT_FALSE(std::filesystem::exists(directory.path("missing")));
+}
+
+}  // namespace

@@ -1,0 +1,55 @@
+// A platform that a test scripts.
+#include "support/scripted_platform.h"
+
+#include <gtest/gtest.h>
+
+namespace support {
+
+ScriptedPlatform::~ScriptedPlatform() {
+  for (const Question& question : expected_) {
+    ADD_FAILURE() << "never asked: " << question.window << question.message.title << ": " << question.message.text;
+  }
+}
+
+void ScriptedPlatform::expectMessage(base::Message message, base::MessageAnswer answer) {
+  expected_.push_back({.message = std::move(message), .answer = answer, .window = {}, .whileOpen = {}});
+}
+
+void ScriptedPlatform::expectModal(std::string name, std::function<void(base::Window&)> whileOpen) {
+  expected_.push_back({.message = {}, .window = std::move(name), .whileOpen = std::move(whileOpen)});
+}
+
+ScriptedPlatform::Question ScriptedPlatform::next(const std::string& asked) {
+  if (expected_.empty()) {
+    ADD_FAILURE() << "not expected: " << asked;
+    return {};
+  }
+  Question question = std::move(expected_.front());
+  expected_.pop_front();
+  return question;
+}
+
+base::MessageAnswer ScriptedPlatform::messageBox(const base::Message& message) {
+  const Question question = next(message.text);
+  EXPECT_EQ(question.message.text, message.text);
+  EXPECT_EQ(question.message.title, message.title);
+  EXPECT_EQ(question.message.icon, message.icon);
+  EXPECT_EQ(question.message.buttons, message.buttons);
+  return question.answer;
+}
+
+void ScriptedPlatform::showModal(base::Window& window) {
+  const Question question = next(std::string(window.name));
+  EXPECT_EQ(question.window, window.name);
+  open_ = &window;
+  if (question.whileOpen) question.whileOpen(window);
+  EXPECT_EQ(open_, nullptr) << window.name << " was left open";
+  open_ = nullptr;
+}
+
+void ScriptedPlatform::close(base::Window& window) {
+  EXPECT_EQ(open_, &window);
+  open_ = nullptr;
+}
+
+}  // namespace support
