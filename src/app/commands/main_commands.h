@@ -1,0 +1,39 @@
+// The main window's wiring: which event runs which procedure, and what follows the dialogs it opens.
+#pragma once
+
+#include "app/errors/reporting.h"
+#include "app/frame/main_window.h"
+#include "app/settings/settings.h"
+#include "base/platform.h"
+#include "base/rich_text.h"
+#include "base/wiring.h"
+#include "calc/picker.h"
+
+namespace app::commands {
+
+/// What the main window's procedures work on. All of it outlives the wiring.
+struct MainParts {
+  frame::MainWindow& window;
+  base::RichText& document;
+  settings::Settings& settings;
+  settings::Paths& paths;
+  frame::CalcResults& results;
+  calc::PickerWindow& picker;
+  base::Platform& platform;
+  errors::Reporter& reporter;
+};
+
+void wireMainWindow(base::Wiring& wiring, const MainParts& parts);
+
+/// Runs the calculation; a failure is the caller's.
+void calculate(const MainParts& parts);
+
+/// Selects a cap height as a person does: the calculation follows.
+void selectHeight(const MainParts& parts, int index);
+void selectSurcharge(const MainParts& parts, int index);
+void selectDiscount(const MainParts& parts, int index);
+
+/// Reads the price database again after it was edited; the selection is not restored.
+void EditDatabase(const MainParts& parts);
+
+}  // namespace app::commands

@@ -1,0 +1,48 @@
+// The one convention in which failures are reported: a reporting procedure stops at its first failing step and shows
+// the error; a skipping one passes over the failing statement.
+#pragma once
+
+#include <new>
+#include <string_view>
+#include <utility>
+
+#include "base/failure.h"
+#include "base/platform.h"
+
+namespace app::errors {
+
+class Reporter {
+ public:
+  explicit Reporter(base::Platform& platform) : platform_(platform) {}
+
+  /// Clears the hourglass and shows the failure, unless its number says that there is nothing to tell (0, cancelled).
+  void report(const base::Failure& failure);
+
+ private:
+  base::Platform& platform_;
+};
+
+/// Runs `procedure` under `tag`; a failure ends it and is reported.
+template <typename Procedure>
+void reporting(Reporter& reporter, std::string_view tag, Procedure&& procedure) {
+  try {
+    base::tagged(tag, std::forward<Procedure>(procedure));
+  } catch (const base::Failure& failure) {
+    reporter.report(failure);
+  } catch (const std::bad_alloc&) {
+    base::Failure failure(base::ErrorNumber::outOfMemory);
+    failure.stamp(tag);
+    reporter.report(failure);
+  }
+}
+
+/// Runs one statement and passes over its failure.
+template <typename Statement>
+void skipping(Statement&& statement) {
+  try {
+    std::forward<Statement>(statement)();
+  } catch (const base::Failure&) {  // NOLINT(bugprone-empty-catch): passing over it is what is asked
+  }
+}
+
+}  // namespace app::errors

@@ -1,0 +1,16 @@
+// What the main window shows before anything is typed.
+#include "app/frame/main_window.h"
+
+namespace app::frame {
+
+MainWindow::MainWindow() : Window("frmMain") {
+  txtStück.text = "1";
+  for (base::TextBox* box : {&txtProzent, &txtRabatt, &txtProzentDM, &txtRabattDM}) box->text = "0.00";
+  lblcboChange1.text = "1";
+  lblcboChange2.text = "2";
+  lblNettoDM.text = "Netto gesamt";
+  lblBruttoDM.text = "Brutto gesamt";
+  lblRCalc.text = "0.00 EUR";
+}
+
+}  // namespace app::frame

@@ -1,0 +1,40 @@
+// Where the program keeps its data files.
+#include "app/lifecycle/program_directory.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "app/settings/settings.h"
+#include "base/profile_file.h"
+
+namespace app::lifecycle {
+namespace {
+
+std::string environment(const char* name) {
+  const char* const value = std::getenv(name);
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+}  // namespace
+
+DirectoryCandidates directoryCandidates(std::optional<std::string> given) {
+  std::error_code ignored;
+  const std::filesystem::path programFile = std::filesystem::read_symlink("/proc/self/exe", ignored);
+  std::string dataHome = environment("XDG_DATA_HOME");
+  // The base directory rules of the desktop ignore a relative path.
+  if (!dataHome.starts_with('/')) dataHome = environment("HOME") + "/.local/share";
+  return {.given = std::move(given),
+          .programFileDirectory = programFile.parent_path().string(),
+          .userDataDirectory = std::move(dataHome)};
+}
+
+std::string programDirectory(const DirectoryCandidates& candidates) {
+  if (candidates.given) return *candidates.given;
+  const settings::Paths portable{candidates.programFileDirectory};
+  if (base::fileExists(portable.generalSettings())) return candidates.programFileDirectory;
+  return base::joinPath(candidates.userDataDirectory, "tessik");
+}
+
+}  // namespace app::lifecycle

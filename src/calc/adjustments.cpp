@@ -1,0 +1,71 @@
+// Surcharges and discounts.
+#include "calc/adjustments.h"
+
+#include "base/money.h"
+#include "base/number.h"
+#include "calc/pricing.h"
+
+namespace calc {
+namespace {
+
+void showOrder(app::frame::MainWindow& window, std::string_view surcharge, std::string_view discount) {
+  window.lblcboChange1.text = surcharge;
+  window.lblcboChange2.text = discount;
+}
+
+void describeChoice(base::ComboBox& box, const app::settings::AdjustmentList& surcharges) {
+  const bool hasSlot = box.selected >= 1 && box.selected <= app::settings::AdjustmentList::kSlots;
+  box.toolTip = box.text + " (" + (hasSlot ? surcharges.remark(box.selected) : std::string()) + ")";
+}
+
+// An emptied box reads "0.00" and is selected, so that the next key replaces it.
+void fillEmptied(base::TextBox& box) {
+  if (!box.text.empty()) return;
+  box.text = "0.00";
+  box.wantsSelectAll = true;
+}
+
+}  // namespace
+
+std::optional<char32_t> quantityKey(char32_t key) {
+  if (key >= U'0' && key <= U'9') return key;
+  return std::nullopt;
+}
+
+std::optional<char32_t> amountKey(char32_t key) {
+  if (key == U',' || key == U'.') return U'.';
+  return quantityKey(key);
+}
+
+std::optional<char32_t> signedAmountKey(char32_t key) { return key == U'-' ? key : amountKey(key); }
+
+void fillAdjustments(base::ComboBox& box, const app::settings::AdjustmentList& list) {
+  box.clear();
+  box.items.add(std::string(kNoAdjustment));
+  for (int slot = 1; slot <= list.count; ++slot) box.items.add(list.amount(slot));
+}
+
+void surchargeChosen(app::frame::MainWindow& window, const app::settings::AdjustmentList& surcharges) {
+  showOrder(window, "1", "2");
+  describeChoice(window.cboAufpreis, surcharges);
+}
+
+void discountChosen(app::frame::MainWindow& window, const app::settings::AdjustmentList& surcharges) {
+  showOrder(window, "2", "1");
+  describeChoice(window.cboRabatt, surcharges);
+}
+
+void percentageTyped(base::TextBox& percentage, base::TextBox& amount, base::Currency net) {
+  amount.text.clear();
+  amount.text = base::storedAmount(amountOfPercentage(net, base::leadingNumber(percentage.text)));
+  fillEmptied(percentage);
+}
+
+void amountTyped(base::TextBox& amount, base::TextBox& percentage, base::Currency net) {
+  percentage.text.clear();
+  const double rounded = base::leadingNumber(base::storedAmount(base::leadingNumber(amount.text)));
+  percentage.text = base::storedAmount(percentageOfAmount(net, rounded));
+  fillEmptied(amount);
+}
+
+}  // namespace calc

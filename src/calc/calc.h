@@ -1,0 +1,36 @@
+// The lettering calculation: reads the document and the inputs, writes every result label.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "app/frame/main_window.h"
+#include "app/settings/settings.h"
+#include "base/money.h"
+#include "base/rich_text.h"
+
+namespace calc {
+
+inline constexpr std::string_view kCalcTag = "MAIN-Calc";
+
+inline constexpr base::Rgb kNegativeTotal = 0xFF0000;
+inline constexpr base::Rgb kPositiveTotal = 0x00C000;
+
+/// What a calculation reads and writes. Texts that are no numbers count as 0.
+struct CalcParts {
+  app::frame::MainWindow& window;
+  const base::RichText& document;
+  const app::settings::Rates& rates;
+  app::frame::CalcResults& results;
+  base::NumberFormat format;
+};
+
+/// The attributes of the type at the caret: "Font: Arial / Größe: 8 (S/S/S)"; F, K, U stand where S (standard) does
+/// not.
+std::string attributeLine(const base::CharFormat& format);
+
+/// One run, under its own tag. Nothing happens when the selection is exactly one line end. A failure (error 6, a number
+/// that is too large) leaves what was written before it.
+void Calc(const CalcParts& parts);
+
+}  // namespace calc

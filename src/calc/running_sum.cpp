@@ -1,0 +1,27 @@
+// The running sum.
+#include "calc/running_sum.h"
+
+#include "base/number.h"
+
+namespace calc {
+
+base::Currency sumOfEntries(const base::ItemList& entries) {
+  base::Currency sum;
+  for (const std::string& entry : entries) sum += base::Currency::fromDouble(base::leadingNumber(entry));
+  return sum;
+}
+
+void showSum(app::frame::MainWindow& window, const base::NumberFormat& format) {
+  window.lblRCalc.text = base::euroText(sumOfEntries(window.cboCalc.items), format);
+}
+
+void addByHand(app::frame::MainWindow& window, const base::NumberFormat& format) {
+  const std::string entry = entryText(base::typedAmount(window.txtAddPerHand.text));
+  if (base::leadingNumber(entry) != 0) {
+    window.cboCalc.items.add(entry);
+    window.txtAddPerHand.wantsSelectAll = true;
+  }
+  showSum(window, format);
+}
+
+}  // namespace calc

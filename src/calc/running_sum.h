@@ -1,0 +1,30 @@
+// The running sum: a list of amounts and their total.
+//
+// The entries are texts with a decimal point whatever the locale; the list is their only store, and the total is
+// recomputed from the texts after every change.
+#pragma once
+
+#include <string>
+
+#include "app/frame/main_window.h"
+#include "base/currency.h"
+#include "base/money.h"
+
+namespace calc {
+
+/// The entry text of an amount: "12.50 EUR".
+template <typename Amount>
+std::string entryText(Amount amount) {
+  return base::storedAmount(amount).append(base::kEuroSuffix);
+}
+
+/// The sum of the leading numbers of all entries; error 6 when it leaves the range.
+base::Currency sumOfEntries(const base::ItemList& entries);
+
+/// Shows the sum of cboCalc in lblRCalc, in the user's locale.
+void showSum(app::frame::MainWindow& window, const base::NumberFormat& format);
+
+/// Adds the amount typed in txtAddPerHand as a new entry unless it is 0, then shows the sum.
+void addByHand(app::frame::MainWindow& window, const base::NumberFormat& format);
+
+}  // namespace calc

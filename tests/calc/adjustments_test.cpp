@@ -1,0 +1,152 @@
+// Surcharges and discounts typed, chosen and picked, and the amounts added by hand.
+#include "calc/adjustments.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/desk.h"
+
+namespace {
+
+using app::frame::MainWindow;
+using base::Event;
+using support::Desk;
+
+// 80 characters at 1 EUR: the net price is 80.
+struct PricedDesk : Desk {
+  PricedDesk() {
+    offerHeights({{"50", "1"}});
+    write(std::string(80, 'x'));
+  }
+};
+
+TEST(Adjustments, EachBoxKeepsItsPartnerInStep) {
+  struct Row {
+    base::TextBox MainWindow::*box;
+    std::string typed;
+    std::string shown;
+    base::TextBox MainWindow::*partner;
+    std::string partnerText;
+    std::string total;
+  };
+  const Row rows[] = {
+      {&MainWindow::txtProzent, "12,5", "12.5", &MainWindow::txtProzentDM, "10.00", "90,00 EUR"},
+      {&MainWindow::txtRabatt, "12.5", "12.5", &MainWindow::txtRabattDM, "10.00", "70,00 EUR"},
+      {&MainWindow::txtRabattDM, "10", "10", &MainWindow::txtRabatt, "12.50", "70,00 EUR"},
+      {&MainWindow::txtProzentDM, "-1a0€", "10", &MainWindow::txtProzent, "12.50", "90,00 EUR"},
+      {&MainWindow::txtProzentDM, "0.005", "0.005", &MainWindow::txtProzent, "0.01", "80,01 EUR"},
+      {&MainWindow::txtProzent, "", "0.00", &MainWindow::txtProzentDM, "0.00", "80,00 EUR"},
+      {&MainWindow::txtRabattDM, "", "0.00", &MainWindow::txtRabatt, "0.00", "80,00 EUR"},
+      {&MainWindow::txtProzent, "1..5", "1..5", &MainWindow::txtProzentDM, "0.80", "80,80 EUR"},
+  };
+  for (const Row& row : rows) {
+    PricedDesk desk;
+    desk.type(desk.window.*row.box, row.typed);
+    EXPECT_EQ((desk.window.*row.box).text, row.shown) << row.typed;
+    EXPECT_EQ((desk.window.*row.partner).text, row.partnerText) << row.typed;
+    EXPECT_EQ(desk.window.lblPNettoAuf.text, row.total) << row.typed;
+  }
+}
+
+TEST(Adjustments, AnAmountOnNothingIsADivisionByZero) {
+  PricedDesk desk;
+  desk.type(desk.window.txtStück, "0");
+  desk.platform.expectMessage({.text = "Division durch Null", .title = "Fehler", .icon = base::MessageIcon::stop});
+  desk.type(desk.window.txtProzentDM, "5");
+  EXPECT_EQ(desk.window.txtProzent.text, "");
+}
+
+TEST(Adjustments, EnterGoesRoundTheFourBoxes) {
+  PricedDesk desk;
+  base::TextBox* const cycle[] = {&desk.window.txtProzent, &desk.window.txtRabatt, &desk.window.txtProzentDM,
+                                  &desk.window.txtRabattDM, &desk.window.txtProzent};
+  for (int i = 0; i < 4; ++i) {
+    cycle[i]->wantsFocus = false;
+    desk.program.wiring.fire(*cycle[i], Event::keyEnter);
+    EXPECT_TRUE(cycle[i + 1]->wantsFocus) << i;
+  }
+}
+
+app::settings::AdjustmentList entries(std::initializer_list<std::pair<const char*, const char*>> rows) {
+  app::settings::AdjustmentList list;
+  std::size_t slot = 0;
+  for (const auto& [amount, remark] : rows) {
+    list.amounts.at(slot) = amount;
+    list.remarks.at(slot++) = remark;
+  }
+  list.count = static_cast<int>(rows.size());
+  return list;
+}
+
+TEST(Adjustments, TheToolTipOfBothListsNamesTheSurchargesRemark) {
+  PricedDesk desk;
+  app::settings::Adjustments& lists = desk.program.settings.adjustments;
+  lists.surcharges = entries({{"10 %", "Eilzuschlag"}});
+  lists.discounts = entries({{"5.00 EUR", "Stammkunde"}, {"", ""}});
+  calc::fillAdjustments(desk.window.cboAufpreis, lists.surcharges);
+  calc::fillAdjustments(desk.window.cboRabatt, lists.discounts);
+  EXPECT_EQ(desk.window.cboRabatt.items.size(), 3);
+
+  desk.choose(desk.window.cboRabatt, 1);
+  EXPECT_EQ(desk.window.cboRabatt.toolTip, "5.00 EUR (Eilzuschlag)");
+  EXPECT_EQ(desk.window.lblcboChange1.text + desk.window.lblcboChange2.text, "21");
+  desk.choose(desk.window.cboAufpreis, 0);
+  EXPECT_EQ(desk.window.cboAufpreis.toolTip, "0.00 EUR ()");
+  EXPECT_EQ(desk.window.lblcboChange1.text + desk.window.lblcboChange2.text, "12");
+  EXPECT_EQ(desk.window.lblPNettoAuf.text, "75,00 EUR");
+}
+
+TEST(Adjustments, ThePickerSelectsTheSameRowOfTheComboBox) {
+  PricedDesk desk;
+  app::settings::AdjustmentList& surcharges = desk.program.settings.adjustments.surcharges;
+  surcharges = entries({{"10 %", "Eilzuschlag"}, {"", "leer"}, {"5.00 EUR", ""}});
+  calc::fillAdjustments(desk.window.cboAufpreis, surcharges);
+  calc::PickerWindow& picker = desk.program.picker;
+
+  desk.platform.expectModal("frmAuswahlAR", [&](base::Window& window) {
+    EXPECT_EQ(window.caption, "Auswahl Aufpreise");
+    EXPECT_EQ(std::vector<std::string>(picker.lstAuswahl.items.begin(), picker.lstAuswahl.items.end()),
+              (std::vector<std::string>{"0.00 EUR -> FEST", "10 % -> Eilzuschlag", "5.00 EUR"}));
+    picker.lstAuswahl.current = 1;
+    desk.click(picker.lstAuswahl);
+  });
+  desk.click(desk.window.cmdAufpreisListe);
+  EXPECT_EQ(desk.window.cboAufpreis.text, "10 %");
+  EXPECT_EQ(desk.window.lblPNettoAuf.text, "88,00 EUR");
+
+  for (const Event leave : {Event::keyEscape, Event::rightPress}) {
+    desk.platform.expectModal("frmAuswahlAR", [&](base::Window&) {
+      picker.lstAuswahl.current = 2;
+      desk.program.wiring.fire(picker.lstAuswahl, leave);
+    });
+    desk.click(desk.window.cmdAufpreisListe);
+    EXPECT_EQ(desk.window.cboAufpreis.text, "10 %");
+  }
+}
+
+TEST(Adjustments, ThePickerShowsOnlyTheFixedRowWhenSlotOneIsEmpty) {
+  PricedDesk desk;
+  desk.program.settings.adjustments.discounts = entries({{"", ""}, {"5 %", "x"}});
+  desk.platform.expectModal("frmAuswahlAR", [&](base::Window& window) {
+    EXPECT_EQ(window.caption, "Auswahl Rabatte");
+    EXPECT_EQ(desk.program.picker.lstAuswahl.items.size(), 1);
+    desk.program.wiring.fire(desk.program.picker.lstAuswahl, Event::keyEscape);
+  });
+  desk.click(desk.window.cmdRabatteListe);
+}
+
+TEST(RunningSum, AmountsAddedByHandMakeUpTheSum) {
+  Desk desk;
+  for (const char* amount : {"12,5", "0", "", "3.005", "-1", "0,001"}) {
+    desk.type(desk.window.txtAddPerHand, amount);
+    desk.click(desk.window.cmdAddPerHand);
+  }
+  desk.window.cboCalc.items.add("ohne Zahl");
+  desk.click(desk.window.cmdAddPerHand);
+  EXPECT_EQ(std::vector<std::string>(desk.window.cboCalc.items.begin(), desk.window.cboCalc.items.end()),
+            (std::vector<std::string>{"12.50 EUR", "3.01 EUR", "-1.00 EUR", "ohne Zahl"}));
+  EXPECT_EQ(desk.window.lblRCalc.text, "14,51 EUR");
+}
+
+}  // namespace
