@@ -1,0 +1,149 @@
+// The terminal form from arguments to output and exit code.
+#include "terminal/price_command.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "support/temporary_directory.h"
+
+namespace {
+
+struct Outcome {
+  int exitCode;
+  std::string out;
+  std::string error;
+};
+
+// A shop with two heights and a stored surcharge.
+class PriceCommand : public testing::Test {
+ protected:
+  PriceCommand() {
+    directory.write("Tessik.pdb", "[Versalien]\r\n0=50\r\n1=100\r\n[Preise]\r\n0=1,25\r\n1=2,50\r\n");
+    directory.write("Ostrowerk.ini", "[Einstellungen]\r\nMwst=16\r\nMaßeinheit=cm\r\nIndex1=2\r\nLZ=0\r\n");
+    directory.write("Tessik.ini", "[Rabatte]\r\n10 %\r\n5.00 EUR\r\n");
+  }
+
+  Outcome run(std::vector<std::string> arguments, const std::string& input = "") {
+    arguments.insert(arguments.begin(), {"--daten", directory.path("")});
+    std::istringstream in(input);
+    std::ostringstream out;
+    std::ostringstream error;
+    const int exitCode = terminal::runPriceCommand(arguments, {.in = in, .out = out, .error = error});
+    return {exitCode, out.str(), error.str()};
+  }
+
+  support::TemporaryDirectory directory;
+};
+
+TEST_F(PriceCommand, PricesWithTheStoredSettings) {
+  const Outcome outcome = run({"--text", "ABCDE FGHIJ", "--stueck", "3"});
+  EXPECT_EQ(outcome.exitCode, 0) << outcome.error;
+  EXPECT_EQ(outcome.out,
+            "Textlänge in Zeichen                   10\n"
+            "Texthöhe                               50\n"
+            "Einzelpreis pro Zeichen netto    1,25 EUR\n"
+            "Einzelpreis pro Zeichen brutto   1,45 EUR\n"
+            "Preis pro Stück                 12,50 EUR\n"
+            "Nettopreis                      37,50 EUR\n"
+            "Aufpreis/Rabatt                  0,00 EUR\n"
+            "Nettopreis gesamt               37,50 EUR\n"
+            "Mwst. Satz                           16 %\n"
+            "Mwst. Anteil                     6,00 EUR\n"
+            "Bruttopreis gesamt              43,50 EUR\n"
+            "Nettopreis in DM                 73,34 DM\n"
+            "Bruttopreis in DM                85,08 DM\n");
+}
+
+TEST_F(PriceCommand, EveryOptionReachesThePrice) {
+  struct Row {
+    std::vector<std::string> arguments;
+    std::string expected;
+  };
+  const Row rows[] = {
+      {{"--hoehe", "100"}, R"("lblPreisNetto": {"text": "25,00 EUR", "tip": "Nettopreis: 25,00 EUR"})"},
+      {{"--hoehe-nr=1"}, R"("lbltexthöhe": {"text": "100", "tip": "Texthöhe in cm: 100"})"},
+      {{"--zusatz", "2,5"}, R"("lblStückp": {"text": "15,00 EUR")"},
+      {{"--aufpreis", "10 %"}, R"("lblPNettoAuf": {"text": "13,75 EUR")"},
+      {{"--aufpreis", "20 %", "--rabatt", "1.00 EUR"}, R"("lblPNettoAuf": {"text": "14,00 EUR")"},
+      {{"--aufpreis-prozent", "12,5"}, R"("lblPNettoAuf": {"text": "14,06 EUR")"},
+      {{"--rabatt-betrag", "20"}, R"("rot": true)"},
+      {{"--mwst", "19"}, R"("lblMwstG1": {"text": "Mwst. 19 %", "tip": null})"},
+      {{"--einheit", "Zoll"}, R"("lblTH": {"text": "Texthöhe in Zoll:", "tip": null})"},
+      {{"--leerzeichen", "1"}, R"("lblTextlenBox": {"text": "11")"},
+      {{"--stueck", "abc"}, R"("lblPreisNetto": {"text": "0,00 EUR")"},
+  };
+  for (const Row& row : rows) {
+    std::vector<std::string> arguments = {"--json", "--text", "ABCDE FGHIJ"};
+    arguments.insert(arguments.end(), row.arguments.begin(), row.arguments.end());
+    const Outcome outcome = run(arguments);
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.error;
+    EXPECT_NE(outcome.out.find(row.expected), std::string::npos) << row.expected << "\n" << outcome.out;
+  }
+}
+
+TEST_F(PriceCommand, ReadsTextsOfAnyEncodingAndLineEnd) {
+  directory.write("text.txt",
+                  "\xEF\xBB\xBFGr\xC3\xB6\xC3\x9F"
+                  "e\n\na\xCC\x88\r");
+  EXPECT_NE(run({"--json", "--datei", directory.path("text.txt")}).out.find(R"("lblTextlenBox": {"text": "6")"),
+            std::string::npos);
+  EXPECT_NE(run({"--json", "--datei", "-"},
+                "Gr\xF6\xDF"
+                "e\r\n")
+                .out.find(R"("lblTextlenBox": {"text": "5")"),
+            std::string::npos);
+}
+
+TEST_F(PriceCommand, TellsWrongArgumentsFromFailures) {
+  struct Row {
+    std::vector<std::string> arguments;
+    int exitCode;
+    std::string message;
+  };
+  directory.write("a.rtf", "{\\rtf1 x}");
+  const Row rows[] = {
+      {{"--hohe", "5"}, 2, "Unbekanntes Argument \"--hohe\""},
+      {{"--text"}, 2, "Nach --text fehlt der Wert"},
+      {{"--text", "a", "--text", "b"}, 2, "--text steht zweimal da"},
+      {{"--text", "a", "--datei", "-"}, 2, "--text oder --datei"},
+      {{"--hoehe", "7"}, 2, "keine Buchstabenhöhe \"7\""},
+      {{"--hoehe-nr", "2"}, 2, "keine Buchstabenhöhe Nr. 2"},
+      {{"--hoehe-nr", "x"}, 2, "verlangt eine ganze Zahl"},
+      {{"--leerzeichen", "2"}, 2, "0 oder 1"},
+      {{"--aufpreis-prozent", "1", "--aufpreis-betrag", "1"}, 2, "Nur eines von beiden"},
+      {{"--text", "a", "--rabatt-betrag", "-5"}, 2, "kein Betrag"},
+      {{"--text", "a", "--zusatz", "viel"}, 2, "--zusatz"},
+      {{"--aufpreis-betrag", "5"}, 1, "Division durch Null"},
+      {{"--datei", directory.path("fehlt.txt")}, 1, "Datei nicht gefunden"},
+      {{"--datei", directory.path("a.rtf")}, 1, "RTF"},
+  };
+  for (const Row& row : rows) {
+    const Outcome outcome = run(row.arguments);
+    EXPECT_EQ(outcome.exitCode, row.exitCode) << row.message;
+    EXPECT_NE(outcome.error.find(row.message), std::string::npos) << outcome.error;
+    EXPECT_EQ(outcome.out, "") << row.message;
+  }
+}
+
+TEST_F(PriceCommand, RefusesSettingsThatAreNoNumbersAndCreatesNothing) {
+  directory.write("Ostrowerk.ini", "[Einstellungen]\nMwst=viel\n");
+  const Outcome noNumber = run({});
+  EXPECT_EQ(noNumber.exitCode, 1);
+  EXPECT_NE(noNumber.error.find("Mwst"), std::string::npos) << noNumber.error;
+
+  const support::TemporaryDirectory empty;
+  const std::string fresh = empty.path("neu");
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream error;
+  const std::vector<std::string> arguments = {"--daten", fresh, "--text", "abc"};
+  EXPECT_EQ(terminal::runPriceCommand(arguments, {.in = in, .out = out, .error = error}), 0) << error.str();
+  EXPECT_NE(out.str().find("16 %"), std::string::npos);
+  EXPECT_FALSE(std::filesystem::exists(fresh));
+}
+
+}  // namespace
