@@ -1,0 +1,22 @@
+// Texts of the logic and of the toolkit.
+#include "ui/utf8.h"
+
+#include <QByteArray>
+
+#include "base/text.h"
+
+namespace ui {
+
+QString toQString(std::string_view utf8) {
+  // The toolkit drops a leading mark and counts ill-formed bytes in its own way.
+  if (base::isValidUtf8(utf8) && !utf8.starts_with(base::kUtf8Mark)) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+  }
+  QString result;
+  while (!utf8.empty()) result += QChar::fromUcs4(base::takeCodePoint(utf8));
+  return result;
+}
+
+std::string toUtf8(QStringView text) { return text.toUtf8().toStdString(); }
+
+}  // namespace ui

@@ -1,0 +1,362 @@
+// The text edit of documents: the contract, and what only a screen can do to a text.
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextBlock>
+#include <QVBoxLayout>
+#include <functional>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "base/text.h"
+#include "support/rich_text_contract.h"
+#include "ui/qt_rich_text.h"
+#include "ui/rich_text_edit.h"
+#include "ui/utf8.h"
+
+namespace support {
+namespace {
+
+struct Screen {
+  ui::RichTextEdit edit;
+  ui::QtRichText text{edit};
+};
+
+std::shared_ptr<base::RichText> makeQtRichText() {
+  const auto screen = std::make_shared<Screen>();
+  return {screen, &screen->text};
+}
+
+INSTANTIATE_TEST_SUITE_P(Qt, RichTextContract, testing::Values(MakeRichText(makeQtRichText)),
+                         [](const auto&) { return std::string("QtRichText"); });
+
+// A change that goes past the port, as a program or the toolkit itself makes it.
+void insertDirectly(ui::RichTextEdit& edit, int position, const QString& text) {
+  QTextCursor cursor(edit.document());
+  cursor.setPosition(position);
+  cursor.insertText(text);
+}
+
+void send(ui::RichTextEdit& edit, int key, const QString& text) {
+  QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+  QApplication::sendEvent(&edit, &press);
+}
+
+void sendMark(ui::RichTextEdit& edit) { send(edit, Qt::Key_unknown, QString(QChar(0x0308))); }
+
+TEST(RichTextEdit, composesInTheUndoStepThatBroughtTheText) {
+  struct Row {
+    std::string before;
+    base::TextSelection place;
+    std::function<void(Screen&)> change;
+    std::string after;
+    std::int64_t caret;
+    int undoSteps = 1;
+  };
+  const auto type = [](Screen& screen) { sendMark(screen.edit); };
+  const auto write = [](Screen& screen) { screen.text.replaceSelection("\u0308"); };
+  const auto commit = [](const QString& text) {
+    return [text](Screen& screen) {
+      QInputMethodEvent event;
+      event.setCommitString(text);
+      QApplication::sendEvent(&screen.edit, &event);
+    };
+  };
+  const auto erase = [](Screen& screen) { QTest::keyClick(&screen.edit, Qt::Key_Backspace); };
+  const std::vector<Row> rows = {
+      {"xay", {2, 0}, type, "xäy", 2},
+      {"xay", {2, 1}, type, "xä", 2},
+      {"xay", {2, 0}, write, "xäy", 2},
+      {"xay", {2, 0}, commit("\u0308b"), "xäby", 3},
+      {"q\u0308", {0, 1}, commit("A\u030A"), "Å\u0308", 1},
+      {"aq\u0308", {2, 0}, erase, "ä", 1, 2},  // the toolkit joins nothing to a single erased character
+      {"a\nq\u0308", {1, 3}, erase, "ä", 1},
+  };
+  for (const Row& row : rows) {
+    Screen screen;
+    screen.text.setPlainText(row.before);
+    const std::string before = screen.text.plainText();
+    screen.text.select(row.place);
+    const QSignalSpy edited(&screen.edit, &ui::RichTextEdit::edited);
+    const auto seesComposed = [&] { EXPECT_EQ(screen.text.plainText(), row.after); };
+    const auto watching = QObject::connect(&screen.edit, &ui::RichTextEdit::caretMoved, seesComposed);
+    row.change(screen);
+    QObject::disconnect(watching);
+    EXPECT_EQ(screen.text.plainText(), row.after);
+    EXPECT_EQ(screen.text.selection(), (base::TextSelection{row.caret, 0})) << row.after;
+    EXPECT_EQ(edited.count(), 1) << row.after;
+    for (int i = 0; i < row.undoSteps; ++i) screen.edit.undo();
+    EXPECT_EQ(screen.text.plainText(), before);
+    for (int i = 0; i < row.undoSteps; ++i) screen.edit.redo();
+    EXPECT_EQ(screen.text.plainText(), row.after);
+  }
+}
+
+TEST(RichTextEdit, undoTakesBackWhatAProgramWroteDecomposed) {
+  Screen screen;
+  insertDirectly(screen.edit, 0, "a\u0308");
+  EXPECT_EQ(screen.text.plainText(), "ä");
+  for (int i = 0; i < 2; ++i) screen.edit.undo();
+  EXPECT_EQ(screen.text.plainText(), "");
+}
+
+TEST(RichTextEdit, composesWhatAProgramWritesAndLeavesTheCaretAlone) {
+  struct Row {
+    std::int64_t caret;
+    int place;
+    QString written;
+    std::string after;
+    std::int64_t caretAfter;
+  };
+  const std::vector<Row> rows = {
+      {0, 1, "A\u030Abca\u0308de", "aÅbcädebc", 0},
+      {3, 1, "A\u030Abca\u0308de", "aÅbcädebc", 9},
+      {0, 1, "\u0308", "äbc", 0},
+      {1, 2, "\u0308\u0323", "aḅ\u0308c", 1},
+  };
+  for (const Row& row : rows) {
+    Screen screen;
+    screen.text.setPlainText("abc");
+    screen.text.select({row.caret, 0});
+    insertDirectly(screen.edit, row.place, row.written);
+    EXPECT_EQ(screen.text.selection(), (base::TextSelection{row.caretAfter, 0})) << row.after;
+    EXPECT_EQ(screen.text.plainText(), row.after);
+  }
+}
+
+TEST(RichTextEdit, writesAnInputMethodsTextComposed) {
+  Screen screen;
+  QInputMethodEvent event;
+  event.setCommitString("u\u0308 \U0001F600");
+  QApplication::sendEvent(&screen.edit, &event);
+  EXPECT_EQ(screen.text.plainText(), "ü 😀");
+}
+
+TEST(RichTextEdit, pastesPlainTextInTheFormatOfTheCaret) {
+  struct Row {
+    const char* name;
+    std::function<void(QMimeData&)> fill;
+    std::string expected;
+  };
+  const std::vector<Row> rows = {
+      {"text", [](QMimeData& data) { data.setText("1\u00A02\r\n3"); }, "1\u00A02\r\n3"},
+      {"HTML alone", [](QMimeData& data) { data.setHtml("<b>1&nbsp;2</b><br>3<p>4 <img src='x.png'>5</p>"); },
+       "1\u00A02\r\n3\r\n4 5"},
+      {"both",
+       [](QMimeData& data) {
+         data.setHtml("<h1>no</h1>");
+         data.setText("yes");
+       },
+       "yes"},
+      {"decomposed", [](QMimeData& data) { data.setText("a\u0308"); }, "ä"},
+      {"no characters",
+       [](QMimeData& data) {
+         data.setText(QStringLiteral("1%1%2z%3%4").arg(QChar(0), QChar(0xD800), QChar(0xDC00), QChar(0xFFFC)));
+       },
+       "1z"},
+      {"a picture", [](QMimeData& data) { data.setImageData(QImage(2, 2, QImage::Format_RGB32)); }, ""},
+  };
+  for (const Row& row : rows) {
+    Screen screen;
+    const base::CharFormat format{.family = "Courier New", .points = 30};
+    screen.text.setFormat(format);
+    auto* const source = new QMimeData;
+    row.fill(*source);
+    QApplication::clipboard()->setMimeData(source);
+    screen.edit.paste();
+    EXPECT_EQ(screen.text.plainText(), row.expected) << row.name;
+    EXPECT_EQ(screen.text.format(), format) << row.name;
+    if (row.expected.empty()) continue;
+    screen.edit.undo();
+    EXPECT_EQ(screen.text.plainText(), "") << row.name;
+  }
+}
+
+TEST(RichTextEdit, copiesNoBreakSpacesAsSuch) {
+  Screen screen;
+  screen.text.setPlainText("a\u00A0b\r\nc");
+  screen.edit.selectAll();
+  screen.edit.copy();
+  EXPECT_EQ(ui::toUtf8(QApplication::clipboard()->text()), "a\u00A0b\nc");
+}
+
+TEST(RichTextEdit, writesTabsAndIsLeftByControlTab) {
+  QWidget window;
+  auto* const layout = new QVBoxLayout(&window);
+  auto* const before = new QLineEdit;
+  auto* const edit = new ui::RichTextEdit;
+  auto* const behind = new QLineEdit;
+  for (QWidget* const widget :
+       {static_cast<QWidget*>(before), static_cast<QWidget*>(edit), static_cast<QWidget*>(behind)})
+    layout->addWidget(widget);
+  window.show();
+  window.activateWindow();
+  edit->setFocus();
+  QTest::keyClick(edit, Qt::Key_Tab);
+  EXPECT_EQ(edit->index().countAll().characters, 1);
+  QTest::keyClick(edit, Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(window.focusWidget(), behind);
+  edit->setFocus();
+  QTest::keyClick(edit, Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(window.focusWidget(), before);
+  EXPECT_EQ(edit->index().countAll().characters, 1);
+}
+
+// Whoever follows the text asks at once, while the toolkit's caret still stands where it stood in the longer text.
+TEST(RichTextEdit, answersWhileTheWholeTextIsReplaced) {
+  ui::RichTextEdit edit;
+  ui::QtRichText text(edit);
+  text.setPlainText("a long text\nof two lines");
+  text.select({.start = 20, .length = 3});
+  std::int64_t asked = 0;
+  QObject::connect(&edit, &ui::RichTextEdit::edited, &edit, [&] {
+    EXPECT_LE(text.selection().start, 2);
+    EXPECT_LE(text.countSelection().characters, 2);
+    EXPECT_EQ(text.caret().line, 1);
+    ++asked;
+  });
+  text.setPlainText("ab");
+  EXPECT_GE(asked, 1);
+}
+
+TEST(RichTextEdit, tellsOnceWhatHappened) {
+  Screen screen;
+  const QSignalSpy edited(&screen.edit, &ui::RichTextEdit::edited);
+  const QSignalSpy moved(&screen.edit, &ui::RichTextEdit::caretMoved);
+  const QSignalSpy released(&screen.edit, &ui::RichTextEdit::released);
+  QTest::keyClick(&screen.edit, Qt::Key_A);
+  EXPECT_EQ(std::vector({edited.count(), moved.count(), released.count()}), std::vector<qsizetype>({1, 1, 1}));
+  QTest::keyClick(&screen.edit, Qt::Key_Left);
+  EXPECT_EQ(std::vector({edited.count(), moved.count(), released.count()}), std::vector<qsizetype>({1, 2, 2}));
+  QTest::mouseClick(screen.edit.viewport(), Qt::LeftButton);
+  EXPECT_EQ(released.count(), 3);
+}
+
+// A plain recount of everything the index answers.
+void expectRecounted(const Screen& screen) {
+  const std::string whole = base::withWindowsLineEnds(ui::toUtf8(screen.edit.document()->toRawText()));
+  const auto count = [](std::string_view text) {
+    base::TextCount result;
+    while (!text.empty()) {
+      const char32_t c = base::takeCodePoint(text);
+      if (c == U'\n') ++result.lineEnds;
+      if (c == U' ') ++result.blanks;
+      if (c != U'\r' && c != U'\n') ++result.characters;
+    }
+    return result;
+  };
+  ASSERT_EQ(screen.text.countAll(), count(whole));
+  const base::TextSelection selection = screen.text.selection();
+  const std::string_view head = base::firstCodePoints(whole, static_cast<std::size_t>(selection.start));
+  const std::string_view rest = std::string_view(whole).substr(head.size());
+  const std::string_view selected = base::firstCodePoints(rest, static_cast<std::size_t>(selection.length));
+  ASSERT_EQ(screen.text.selectedText(), selected);
+  ASSERT_EQ(screen.text.countSelection(), count(selected));
+  const bool caretAtStart = screen.edit.textCursor().position() == screen.edit.textCursor().selectionStart();
+  const std::string before = std::string(head) + std::string(caretAtStart ? "" : selected);
+  const std::size_t lineStart = before.rfind('\n') == std::string::npos ? 0 : before.rfind('\n') + 1;
+  const auto column = static_cast<std::int64_t>(base::codePointCount(std::string_view(before).substr(lineStart))) + 1;
+  ASSERT_EQ(screen.text.caret(), (base::Caret{count(before).lineEnds + 1, column}));
+}
+
+class Walker {
+ public:
+  explicit Walker(unsigned seed) : random_(seed) {}
+
+  void step(Screen& screen) {
+    switch (upTo(12)) {
+      case 0:
+        return screen.edit.undo();
+      case 1:
+        return screen.edit.redo();
+      case 2:
+        return QTest::keyClick(&screen.edit, Qt::Key_Backspace);
+      case 3:
+        return QTest::keyClick(&screen.edit, Qt::Key_Return, upTo(1) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
+      case 4:
+        return paste(screen);
+      case 5:
+        return screen.text.replaceSelection("");
+      case 6:
+        return editTwice(screen);
+      case 7:
+        return screen.text.setFormat({.points = 8.0 + upTo(3)});
+      case 8:
+        return upTo(100) == 0 ? screen.text.setPlainText(piece(3000)) : send(screen.edit, Qt::Key_A, "a");
+      case 9:
+        return sendMark(screen.edit);
+      default:
+        return place(screen);
+    }
+  }
+
+  std::string piece(int most) {
+    static const std::vector<std::string> parts = {"a", "x", " ", "\n", "\n", "😀", "\u2028", "\u0308", "\u00A0", "\t"};
+    std::string result;
+    for (int i = upTo(most); i >= 0; --i) result += parts[static_cast<std::size_t>(upTo(9))];
+    return result;
+  }
+
+ private:
+  int upTo(int most) { return std::uniform_int_distribution<int>(0, most)(random_); }
+
+  void place(Screen& screen) {
+    const base::TextCount all = screen.text.countAll();
+    const auto end = static_cast<int>(all.characters + 2 * all.lineEnds);
+    const int start = upTo(end);
+    screen.text.select({start, upTo(3) == 0 ? upTo(end - start) / 4 : upTo(4) / 3});
+  }
+
+  void paste(Screen& screen) {
+    auto* const source = new QMimeData;
+    source->setText(ui::toQString(piece(200)));
+    QApplication::clipboard()->setMimeData(source);
+    screen.edit.paste();
+  }
+
+  // Two places in one edit block, which the toolkit reports as one change.
+  void editTwice(Screen& screen) {
+    QTextCursor cursor(screen.edit.document());
+    cursor.beginEditBlock();
+    for (int i = 0; i < 2; ++i) {
+      cursor.setPosition(upTo(screen.edit.document()->characterCount() - 1));
+      if (upTo(1) == 0) cursor.deleteChar();
+      cursor.insertText(ui::toQString(piece(3)));
+    }
+    cursor.endEditBlock();
+  }
+
+  std::mt19937 random_;
+};
+
+TEST(RichTextEdit, countsStayRightUnderAnyEdits) {
+  for (const unsigned seed : {1U, 2U, 3U}) {
+    Screen screen;
+    Walker walker(seed);
+    screen.text.setPlainText(walker.piece(3000));
+    for (int step = 0; step < 1500; ++step) {
+      walker.step(screen);
+      ASSERT_NO_FATAL_FAILURE(expectRecounted(screen)) << "seed " << seed << ", step " << step;
+    }
+  }
+}
+
+TEST(RichTextEdit, aLongParagraphIsCountedLikeAShortOne) {
+  // Longer than one chunk of the counting loop, with a pair before, across and behind its end.
+  for (const std::size_t blanks : {0xFFFDU, 0xFFFEU, 0xFFFFU}) {
+    Screen screen;
+    std::string text(blanks, ' ');
+    text.append("😀").append(0xFFFF, 'a').append("😀");
+    screen.text.setPlainText(text);
+    const auto count = static_cast<std::int64_t>(blanks);
+    EXPECT_EQ(screen.text.countAll(), (base::TextCount{count + 0xFFFF + 2, count, 0}));
+  }
+}
+
+}  // namespace
+}  // namespace support
