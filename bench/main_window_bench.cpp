@@ -1,0 +1,115 @@
+// What the program adds to a key in the main window, from the text edit's change to all labels written, and how long a
+// price list of 32,000 rows takes to stand in it.
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTextCursor>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "app/lifecycle/program.h"
+#include "calc/price_database.h"
+#include "measure.h"
+#include "ui/main_form.h"
+#include "ui/qt_platform.h"
+#include "ui/rich_text_edit.h"
+
+namespace {
+
+// The main window as the program puts it together, with a price list of two heights.
+struct Desk {
+  ui::Gate gate;
+  ui::Sync sync{gate};
+  ui::QtPlatform platform{gate, sync};
+  app::errors::Reporter reporter{platform};
+  app::lifecycle::Program program;
+  ui::MainForm form;
+  app::commands::MainParts parts = app::lifecycle::mainParts(program, platform, form.document(), reporter);
+  ui::BoundWindow& bound;
+
+  Desk() : bound((app::lifecycle::wire(program, parts), form.bindTo(program.main, program.wiring, gate, sync))) {
+    program.main.cboBuchstabenhöhe.items.assign({"50", "100"});
+    program.main.List1.items = {calc::alignedPrice("1.25"), calc::alignedPrice("2.50")};
+    app::commands::selectHeight(parts, 0);
+    sync.open(bound);
+    form.show();
+    QApplication::processEvents();
+  }
+};
+
+std::string lettering(int characters, int lineLength) {
+  std::string text;
+  for (int i = 1; i <= characters; ++i) text += i % lineLength == 0 ? '\n' : i % 7 == 0 ? ' ' : 'x';
+  return text;
+}
+
+// The wired procedure runs again as it does for a key: calculation and sync pass, the labels changing each time.
+double ownShare(Desk& desk, int runs) {
+  bool odd = false;
+  return bench::medianMilliseconds(
+      runs, [&] { return odd = !odd; },
+      [&](bool /*unused*/) {
+        desk.program.main.txtStück.text = odd ? "2" : "3";
+        desk.gate.userEvent([&] { desk.program.wiring.fire(desk.form.document(), base::Event::changed); });
+      });
+}
+
+double wholeKey(Desk& desk, int runs) {
+  auto* const edit = desk.form.findChild<ui::RichTextEdit*>(QStringLiteral("rtfText"));
+  return bench::medianMilliseconds(
+      runs, [] { return 0; },
+      [&](int /*unused*/) {
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
+        QApplication::sendEvent(edit, &key);
+      });
+}
+
+void keys() {
+  std::printf("One key in the main window (ms)\n");
+  bench::Table table({"our share", "whole key"});
+  struct Row {
+    const char* name;
+    int characters;
+    int lineLength;
+  };
+  for (const Row& row :
+       {Row{"empty", 0, 60}, Row{"65,000 in lines of 60", 65000, 60}, Row{"65,000 in one line", 65000, 65001},
+        Row{"1,000,000 in lines of 60", 1000000, 60}, Row{"1,000,000 in one line", 1000000, 1000001}}) {
+    Desk desk;
+    desk.form.document().setPlainText(lettering(row.characters, row.lineLength));
+    QApplication::processEvents();
+    const int runs = row.lineLength > 60 ? 5 : 25;
+    const double share = ownShare(desk, 50);
+    table.row(row.name, {share, wholeKey(desk, runs)});
+  }
+}
+
+void priceList() {
+  constexpr int kRows = 32000;
+  const std::filesystem::path file = std::filesystem::temp_directory_path() / "tessik-bench.pdb";
+  {
+    std::ofstream out(file, std::ios::binary);
+    out << "[Versalien]\r\n";
+    for (int i = 0; i < kRows; ++i) out << i << "=" << i + 10 << "\r\n";
+    out << "[Preise]\r\n";
+    for (int i = 0; i < kRows; ++i) out << i << "=" << i / 100 << "," << i % 100 << "\r\n";
+  }
+  Desk desk;
+  const double time = bench::medianMilliseconds(
+      15, [] { return 0; },
+      [&](int /*unused*/) { desk.gate.userEvent([&] { calc::loadPriceDatabase(desk.program.main, file.string()); }); });
+  std::printf("\nA price list of %d rows into the main window (ms)\n", kRows);
+  bench::Table({"load and show"}).row("", {time});
+  std::filesystem::remove(file);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  keys();
+  priceList();
+}

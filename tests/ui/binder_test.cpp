@@ -1,0 +1,82 @@
+// The binder: what it ties, and which faults of a form it names.
+#include "ui/binder.h"
+
+#include <gtest/gtest.h>
+
+#include <QGroupBox>
+#include <QListWidget>
+#include <QSpinBox>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "sample_window.h"
+#include "ui/input_guard.h"
+
+namespace ui {
+namespace {
+
+using base::Event;
+
+TEST(Binder, FindsNothingWrongWithAFormThatDrawsEveryControl) {
+  Sample sample;
+  auto* frame = new QGroupBox(&sample.form);
+  frame->setObjectName("fixRahmen");
+  new QSpinBox(frame);  // its inner parts have names of the toolkit's own
+  EXPECT_EQ(mismatches(sample.model, sample.form), Names{});
+}
+
+TEST(Binder, NamesEveryFaultOfAForm) {
+  Sample sample;
+  sample.form.height.setObjectName("lblHoehe");
+  sample.form.pieces.setObjectName("txtProzent");
+  sample.form.rows.setObjectName("");
+  QListWidget ownRows(&sample.form);
+  ownRows.setObjectName("lstAuswahl");
+  QAction spare(&sample.form);
+  spare.setObjectName("mnuRest");
+  QWidget document(&sample.form);
+  document.setObjectName("rtfText");
+  QLabel timer(&sample.form);
+  timer.setObjectName("tmrUhr");
+  EXPECT_EQ(mismatches(sample.model, sample.form, {"rtfText"}),
+            (Names{"txtProzent: the form draws it twice", "lblHöhe: the form does not draw it",
+                   "txtStück: the form does not draw it", "lstAuswahl: the form draws it as another kind",
+                   "lblHoehe: no control of that name", "mnuRest: no control of that name",
+                   "tmrUhr: no control of that name"}));
+}
+
+TEST(Binder, BindsAFormAgainAfterItsWindowWasBuiltAnew) {
+  Sample sample;
+  sample.model.lblHöhe.text = "50 mm";
+  sample.show();
+  {
+    SampleForm second;
+    sample.sync.open(bind(sample.model, second, sample.wiring, sample.gate, sample.sync));
+    EXPECT_EQ(second.height.text(), "50 mm");
+  }
+  sample.run([&] { sample.model.lblHöhe.text = "60 mm"; });  // the form that is gone is no longer carried
+  EXPECT_EQ(sample.form.height.text(), "60 mm");
+}
+
+TEST(Binder, LetsASignalIntoTheGateUnderTheWiringOfItsSource) {
+  Sample sample;
+  sample.note(sample.model.lstAuswahl, Event::released, "released");
+  const auto signal = firing(sample.wiring, sample.gate, sample.model.lstAuswahl, Event::released);
+  signal();
+  sample.run(signal);
+  EXPECT_EQ(sample.fired, Names{"released"});
+}
+
+TEST(InputGuard, KeepsTypedTextFromAWidgetThatIsItsOwnModel) {
+  Sample sample;
+  sample.show();
+  QLineEdit document;
+  new InputGuard(sample.gate, document);
+  sample.run([&] { QTest::keyClicks(&document, "ab"); });
+  QTest::keyClicks(&document, "c");
+  EXPECT_EQ(document.text(), "c");
+}
+
+}  // namespace
+}  // namespace ui
