@@ -4,6 +4,7 @@
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
 #include <algorithm>
 #include <utility>
@@ -16,6 +17,14 @@ namespace {
 using base::Event;
 
 constexpr int kLeastCharactersShown = 8;
+
+/// Whether the drop-down list is one. Some styles open a menu, in which rows of one size come out far too wide.
+bool opensAsList(const QComboBox& box) {
+  QStyleOptionComboBox option;
+  option.initFrom(&box);
+  option.editable = box.isEditable();
+  return box.style()->styleHint(QStyle::SH_ComboBox_Popup, &option, &box) == 0;
+}
 
 bool marksSeveral(const QListView& view) {
   return view.selectionMode() != QAbstractItemView::SingleSelection &&
@@ -64,7 +73,7 @@ ComboBinding::ComboBinding(base::ComboBox& model, QComboBox& widget, const Conte
   if (widget.minimumContentsLength() == 0) widget.setMinimumContentsLength(kLeastCharactersShown);
   widget.setInsertPolicy(QComboBox::NoInsert);
   widget.setFocusPolicy(Qt::StrongFocus);  // the wheel must not take the focus either
-  if (auto* popup = qobject_cast<QListView*>(widget.view())) popup->setUniformItemSizes(true);
+  if (auto* popup = qobject_cast<QListView*>(widget.view())) popup->setUniformItemSizes(opensAsList(widget));
   widget.setModel(&rows_);
   connect(&widget, &QComboBox::activated, this, &ComboBinding::choose);
   if (widget.lineEdit() != nullptr) makeEditable(*widget.lineEdit());

@@ -1,7 +1,6 @@
 // The bindings of the other controls, driven as a person drives them.
 #include <gtest/gtest.h>
 
-#include <iostream>
 #include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QClipboard>
@@ -15,7 +14,6 @@
 
 #include "sample_window.h"
 #include "ui/binding_list.h"
-#include "ui/program_style.h"
 
 namespace ui {
 namespace {
@@ -87,7 +85,6 @@ TEST(RightButton, AnswersTheMouseOnceAndTheMenuKeyAndOpensNoMenuOfTheToolkit) {
 }
 
 TEST(ComboBox, FiresAClickForTheUsersChoiceOnly) {
-  QApplication::setStyle(new ProgramStyle);
   Sample sample;
   base::ComboBox& box = sample.model.cboHöhe;
   box.items.assign(numberedRows(40));
@@ -113,9 +110,6 @@ TEST(ComboBox, FiresAClickForTheUsersChoiceOnly) {
   const QModelIndex fifth = popup.model()->index(5, 0);
   popup.scrollTo(fifth);
   QCoreApplication::processEvents();
-  EXPECT_TRUE(QTest::qWaitForWindowExposed(popup.window()));
-  std::cerr<<"DBG "<<popup.visualRect(fifth).width()<<" "<<popup.viewport()->width()<<" "<<popup.window()->width()<<" combo "<<sample.form.heights.width()<<" hint "<<popup.sizeHintForIndex(fifth).width()<<" "<<popup.visualRect(fifth).center().y()<<" "<<popup.viewport()->height()<<" "<<popup.viewport()->rect().contains(popup.visualRect(fifth).center())<<"\n";
-  QTest::mouseMove(popup.viewport(), popup.visualRect(fifth).center());
   QTest::mouseClick(popup.viewport(), Qt::LeftButton, {}, popup.visualRect(fifth).center());
   EXPECT_EQ(box.text, "5 mm");
 }

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -23,6 +24,7 @@
 #include "base/controls.h"
 #include "base/wiring.h"
 #include "ui/binder.h"
+#include "ui/program_style.h"
 
 namespace ui {
 
@@ -117,6 +119,7 @@ struct Sample {
 
   /// Binds and shows the window; the wiring is complete by then.
   void show() {
+    QApplication::setStyle(new ProgramStyle);
     gate.setBeep([this] { ++beeps; });
     gate.setLastResort([this](const std::exception& failure) { failures.emplace_back(failure.what()); });
     BoundWindow& bound = bind(model, form, wiring, gate, sync);
