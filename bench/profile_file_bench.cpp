@@ -11,6 +11,7 @@
 #include <fstream>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/profile_file.h"
@@ -31,7 +32,7 @@ namespace {
 
 constexpr int kRuns = 15;
 constexpr int kKeys = 32000;
-constexpr std::array<const char*, 2> kSections = {"Versalien", "Preise"};
+constexpr std::array<std::string_view, 2> kSections = {"Versalien", "Preise"};
 
 struct Data {
   std::string path;
@@ -79,8 +80,8 @@ struct Figures {
 };
 
 void setAll(base::ProfileFile& file, const Data& data) {
-  for (const char* section : kSections) file.deleteSection(section);
-  eachKey(data, [&](const char* section, const std::string& key, const std::string& value) {
+  for (const std::string_view section : kSections) file.deleteSection(section);
+  eachKey(data, [&](std::string_view section, const std::string& key, const std::string& value) {
     file.setValue(section, key, value);
   });
 }
@@ -90,7 +91,7 @@ Figures measureOurs(const Data& data) {
   Figures figures{};
   figures.load = medianTime(kNothing, [&](int) {
     const base::ProfileFile file = loaded();
-    eachKey(data, [&](const char* section, const std::string& key, const std::string& value) {
+    eachKey(data, [&](std::string_view section, const std::string& key, const std::string& value) {
       require(file.value(section, key, base::kListBuffer) == value, "ours, load");
     });
   });
@@ -149,23 +150,23 @@ Figures measureGKeyFile(const Data& data) {
   Figures figures{};
   figures.load = medianTime(kNothing, [&](int) {
     KeyFile file(data.path);
-    eachKey(data, [&](const char* section, const std::string& key, const std::string& value) {
-      gchar* const read = g_key_file_get_string(file.get(), section, key.c_str(), nullptr);
+    eachKey(data, [&](std::string_view section, const std::string& key, const std::string& value) {
+      gchar* const read = g_key_file_get_string(file.get(), section.data(), key.c_str(), nullptr);
       require(read != nullptr && value == read, "GKeyFile, load");
       g_free(read);
     });
   });
   const auto loaded = [&] { return KeyFile(data.path); };
   figures.rewrite = medianTime(loaded, [&](KeyFile& file) {
-    for (const char* section : kSections) g_key_file_remove_group(file.get(), section, nullptr);
-    eachKey(data, [&](const char* section, const std::string& key, const std::string& value) {
-      g_key_file_set_string(file.get(), section, key.c_str(), value.c_str());
+    for (const std::string_view section : kSections) g_key_file_remove_group(file.get(), section.data(), nullptr);
+    eachKey(data, [&](std::string_view section, const std::string& key, const std::string& value) {
+      g_key_file_set_string(file.get(), section.data(), key.c_str(), value.c_str());
     });
     file.makeBytes();
   });
   figures.oneKey = medianTime(kNothing, [&](int) {
     KeyFile file(data.path);
-    g_key_file_set_string(file.get(), kSections[1], "16000", "1.23");
+    g_key_file_set_string(file.get(), kSections[1].data(), "16000", "1.23");
     file.makeBytes();
   });
   return figures;
@@ -173,8 +174,8 @@ Figures measureGKeyFile(const Data& data) {
 #endif
 
 #ifdef TESSIK_WITH_QT
-QString joined(const char* section, const std::string& key) {
-  return QString::fromUtf8(section) + QLatin1Char('/') + QString::fromStdString(key);
+QString joined(std::string_view section, const std::string& key) {
+  return QString::fromUtf8(section.data()) + QLatin1Char('/') + QString::fromStdString(key);
 }
 
 Figures measureQSettings(const Data& data) {
@@ -188,14 +189,14 @@ Figures measureQSettings(const Data& data) {
   Figures figures{};
   figures.load = medianTime(freshCopy, [&](const QString& path) {
     const QSettings file(path, QSettings::IniFormat);
-    eachKey(data, [&](const char* section, const std::string& key, const std::string& value) {
+    eachKey(data, [&](std::string_view section, const std::string& key, const std::string& value) {
       require(file.value(joined(section, key)).toString().toStdString() == value, "QSettings, load");
     });
   });
   figures.rewrite = medianTime(freshCopy, [&](const QString& path) {
     QSettings file(path, QSettings::IniFormat);
-    for (const char* section : kSections) file.remove(QString::fromUtf8(section));
-    eachKey(data, [&](const char* section, const std::string& key, const std::string& value) {
+    for (const std::string_view section : kSections) file.remove(QString::fromUtf8(section.data()));
+    eachKey(data, [&](std::string_view section, const std::string& key, const std::string& value) {
       file.setValue(joined(section, key), QString::fromStdString(value));
     });
     file.sync();
@@ -229,20 +230,20 @@ Figures measureSimpleIni(const Data& data) {
   Figures figures{};
   figures.load = medianTime(kNothing, [&](int) {
     const auto file = loaded();
-    eachKey(data, [&](const char* section, const std::string& key, const std::string& value) {
-      require(value == file->GetValue(section, key.c_str(), ""), "SimpleIni, load");
+    eachKey(data, [&](std::string_view section, const std::string& key, const std::string& value) {
+      require(value == file->GetValue(section.data(), key.c_str(), ""), "SimpleIni, load");
     });
   });
   figures.rewrite = medianTime(loaded, [&](std::unique_ptr<CSimpleIniA>& file) {
-    for (const char* section : kSections) file->Delete(section, nullptr);
-    eachKey(data, [&](const char* section, const std::string& key, const std::string& value) {
-      file->SetValue(section, key.c_str(), value.c_str());
+    for (const std::string_view section : kSections) file->Delete(section.data(), nullptr);
+    eachKey(data, [&](std::string_view section, const std::string& key, const std::string& value) {
+      file->SetValue(section.data(), key.c_str(), value.c_str());
     });
     makeBytes(*file);
   });
   figures.oneKey = medianTime(kNothing, [&](int) {
     const auto file = loaded();
-    file->SetValue(kSections[1], "16000", "1.23");
+    file->SetValue(kSections[1].data(), "16000", "1.23");
     makeBytes(*file);
   });
   return figures;

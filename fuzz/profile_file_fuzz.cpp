@@ -57,16 +57,16 @@ void requireOneLineTouched(std::string_view before, std::string_view after) {
 
 class Session {
  public:
-  explicit Session(FuzzedDataProvider& data) : data_(data) {
+  explicit Session(FuzzedDataProvider& data) : data_(data), names_{"0", "1"} {
     for (int i = 0; i < 3; ++i) names_.push_back(data_.ConsumeRandomLengthString(8));
-    operations_ = data_.ConsumeIntegralInRange(0, 8);
+    operations_ = data_.ConsumeIntegralInRange(0, 10);
   }
 
   void run() {
     const std::vector<std::string> texts = {data_.ConsumeRandomLengthString(24), data_.ConsumeRandomLengthString(24)};
     const std::vector<int> operations = [&] {
       std::vector<int> list;
-      for (int i = 0; i < operations_; ++i) list.push_back(data_.ConsumeIntegral<std::uint8_t>());
+      for (int i = 0; i < operations_; ++i) list.push_back(data_.ConsumeIntegralInRange(0, 199));
       return list;
     }();
     const std::string bytes = data_.ConsumeRemainingBytesAsString();
@@ -78,12 +78,12 @@ class Session {
  private:
   // The bits of `operation` choose what is done and to which names.
   void change(ProfileFile& file, int operation, const std::vector<std::string>& texts) {
-    const std::string& section = names_.at(static_cast<std::size_t>(operation / 4 % 3));
-    const std::string& key = names_.at(static_cast<std::size_t>(operation / 12 % 3));
+    const std::string& section = names_.at(static_cast<std::size_t>(operation / 4 % 5));
+    const std::string& key = names_.at(static_cast<std::size_t>(operation / 20 % 5));
     if (operation % 4 == 0) file.deleteKey(section, key);
     if (operation % 4 == 1) file.deleteSection(section);
     if (operation % 4 == 2) file.setSection(section, texts);
-    if (operation % 4 == 3) set(file, section, key, texts.at(static_cast<std::size_t>(operation / 36 % 2)));
+    if (operation % 4 == 3) set(file, section, key, texts.at(static_cast<std::size_t>(operation / 100 % 2)));
     compareWithReader(file);
   }
 

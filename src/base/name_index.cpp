@@ -42,19 +42,6 @@ std::uint64_t mixed(std::uint64_t hash, std::uint64_t word) {
   return hash ^ (hash >> 32U);
 }
 
-// The keys of long sections are numbers, counted up from 0 and asked for one after the other. As their own hash they
-// stand in the index in that order, every other slot left to other names.
-std::optional<std::uint32_t> numberOf(std::string_view name) {
-  constexpr std::size_t kMostDigits = 9;
-  if (name.empty() || name.size() > kMostDigits) return std::nullopt;
-  std::uint32_t number = 0;
-  for (const char byte : name) {
-    if (byte < '0' || byte > '9') return std::nullopt;
-    number = 10 * number + static_cast<std::uint32_t>(byte - '0');
-  }
-  return number;
-}
-
 }  // namespace
 
 bool sameButForCase(std::string_view a, std::string_view b) {
@@ -65,7 +52,6 @@ bool sameButForCase(std::string_view a, std::string_view b) {
 }
 
 std::uint32_t nameHash(std::string_view name) {
-  if (const std::optional<std::uint32_t> number = numberOf(name)) return 2 * *number;
   std::uint64_t hash = name.size();
   for (; name.size() >= 8; name.remove_prefix(8)) hash = mixed(hash, wordAt<std::uint64_t>(name.data()));
   if (name.size() >= 4) {

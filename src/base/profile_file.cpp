@@ -11,6 +11,8 @@
 namespace base {
 namespace {
 
+constexpr std::size_t kMostBytes = std::size_t{1} << 31U;  // a line and its name are counted in 32 bits
+
 std::string_view withoutPairOfQuotes(std::string_view text) {
   const bool quoted = text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
   return quoted ? text.substr(1, text.size() - 2) : text;
@@ -66,7 +68,11 @@ ProfileFile::ProfileFile(ProfileFile&&) noexcept = default;
 ProfileFile& ProfileFile::operator=(ProfileFile&&) noexcept = default;
 ProfileFile::~ProfileFile() = default;
 
-ProfileFile ProfileFile::load(const std::string& path) { return parse(readFile(path).value_or(std::string())); }
+ProfileFile ProfileFile::load(const std::string& path) {
+  std::string bytes = readFile(path).value_or(std::string());
+  if (bytes.size() > kMostBytes) throw fileFailure(ErrorNumber::pathFileAccess, path);
+  return parse(std::move(bytes));
+}
 
 ProfileFile ProfileFile::parse(std::string bytes) { return ProfileFile(std::make_unique<Content>(std::move(bytes))); }
 
@@ -74,7 +80,8 @@ std::optional<std::string> ProfileFile::value(std::string_view section, std::str
                                               std::size_t bufferSize) const {
   const ProfileLine* const entry = content_->findEntry(section, key);
   if (entry == nullptr || bufferSize == 0) return std::nullopt;
-  return std::string(cutTo(bufferSize - 1, withoutPairOfQuotes(valueOf(*entry))));
+  const std::string_view text = cutTo(bufferSize - 1, withoutPairOfQuotes(valueOf(*entry)));
+  return std::string(text.substr(0, text.find('\0')));
 }
 
 std::vector<std::string> ProfileFile::sectionLines(std::string_view section, std::size_t bufferSize) const {

@@ -6,8 +6,8 @@
 //
 // Writing. An existing key changes in place: what stands up to its value stays. A new key stands behind the last line
 // of its section that is neither blank nor comment, a new section at the end of the file; new lines end as the first
-// line of the file does. CR and LF inside a text are written as one blank each. No name is checked: a key with "=" in
-// it is written, but reads back as another.
+// line of the file does. CR and LF inside a text are written as one blank each. A section name ends at its first "]" as
+// in a header. A key is not checked: with a "=" in it, it is written but reads back as another.
 //
 // Characters. In memory UTF-8, lengths in code points. A file that is not valid UTF-8 is read as code page 1252 and
 // written back so, unless a new text does not fit it.
@@ -43,7 +43,8 @@ class ProfileFile {
   ProfileFile& operator=(ProfileFile&&) noexcept;
   ~ProfileFile();
 
-  /// The trimmed value without its pair of quotes, cut to bufferSize − 1 characters; nothing when it is missing.
+  /// The trimmed value without its pair of quotes, cut to bufferSize − 1 characters and at a NUL, as a buffer holds it;
+  /// nothing when it is missing.
   [[nodiscard]] std::optional<std::string> value(std::string_view section, std::string_view key,
                                                  std::size_t bufferSize) const;
   /// The section's lines, trimmed, without comments and blank lines, as far as bufferSize − 2 characters hold them

@@ -25,29 +25,37 @@ std::string_view valueOf(const ProfileLine& line) {
   return withoutOuterBlanks(text.substr(equals + 1));
 }
 
-ProfileLine::ProfileLine(LineKind kind, std::string_view bytes, std::string_view name)
+ProfileLine::ProfileLine(std::string_view bytes)
+    : start_(bytes.data()), size_(static_cast<std::uint32_t>(bytes.size())) {
+  const std::string_view content = contentOf(*this);
+  if (content.empty()) return;
+  if (content.front() == ';') {
+    kind_ = LineKind::comment;
+  } else if (content.front() == '[') {
+    setName(LineKind::header, content.substr(1, std::min(content.find(']'), content.size()) - 1));
+  } else if (const std::size_t equals = content.find('='); equals != std::string_view::npos) {
+    setName(LineKind::entry, content.substr(0, equals));
+  } else {
+    kind_ = LineKind::text;
+  }
+}
+
+ProfileLine::ProfileLine(std::string_view bytes, std::size_t nameSize)
     : start_(bytes.data()),
       size_(static_cast<std::uint32_t>(bytes.size())),
-      nameStart_(name.empty() ? 0 : static_cast<std::uint32_t>(name.data() - bytes.data())),
-      nameSize_(static_cast<std::uint32_t>(name.size())),
-      kind_(kind) {}
+      nameSize_(static_cast<std::uint32_t>(nameSize)),
+      kind_(LineKind::entry) {}
+
+void ProfileLine::setName(LineKind kind, std::string_view name) {
+  name = withoutOuterBlanks(name);
+  kind_ = kind;
+  nameStart_ = static_cast<std::uint32_t>(name.data() - start_);
+  nameSize_ = static_cast<std::uint32_t>(name.size());
+}
 
 void ProfileLine::setBytes(std::string_view bytes) {
   start_ = bytes.data();
   size_ = static_cast<std::uint32_t>(bytes.size());
-}
-
-ProfileLine asProfileLine(std::string_view bytes) {
-  const std::string_view content = withoutOuterBlanks(withoutLineEnd(bytes));
-  if (content.empty()) return {LineKind::blank, bytes};
-  if (content.front() == ';') return {LineKind::comment, bytes};
-  if (content.front() == '[') {
-    const std::size_t end = std::min(content.find(']'), content.size());
-    return {LineKind::header, bytes, withoutOuterBlanks(content.substr(1, end - 1))};
-  }
-  const std::size_t equals = content.find('=');
-  if (equals == std::string_view::npos) return {LineKind::text, bytes};
-  return {LineKind::entry, bytes, withoutOuterBlanks(content.substr(0, equals))};
 }
 
 LineReader::LineReader(std::string_view bytes)

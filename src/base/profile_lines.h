@@ -16,8 +16,12 @@ enum class LineKind : std::uint8_t { blank, comment, header, entry, text };
 /// Kept small, since a file has tens of thousands; lines and their names are shorter than 4 GiB.
 class ProfileLine {
  public:
+  /// A line of no bytes.
   ProfileLine() = default;
-  ProfileLine(LineKind kind, std::string_view bytes, std::string_view name = {});
+  /// What a reader takes the bytes for.
+  explicit ProfileLine(std::string_view bytes);
+  /// An entry that is known to be one; its bytes begin with its name.
+  ProfileLine(std::string_view bytes, std::size_t nameSize);
 
   [[nodiscard]] LineKind kind() const { return kind_; }
   /// As in the file, line end included.
@@ -30,14 +34,14 @@ class ProfileLine {
   void setBytes(std::string_view bytes);
 
  private:
+  void setName(LineKind kind, std::string_view name);
+
   const char* start_ = "";
   std::uint32_t size_ = 0;
   std::uint32_t nameStart_ = 0;
   std::uint32_t nameSize_ = 0;
   LineKind kind_ = LineKind::blank;
 };
-
-ProfileLine asProfileLine(std::string_view bytes);
 
 /// Space, TAB, VT and FF: the library's idea of a blank depends on the locale and takes line ends in.
 constexpr bool isBlank(char byte) { return byte == ' ' || byte == '\t' || byte == '\v' || byte == '\f'; }

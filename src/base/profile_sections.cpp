@@ -2,11 +2,10 @@
 #include "base/profile_sections.h"
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
+#include <optional>
 #include <utility>
 
-#include "base/code_page.h"
 #include "base/text.h"
 
 namespace base {
@@ -20,6 +19,31 @@ void indexKeys(ProfileSection& section) {
     ++at;
   }
   section.indexed = true;
+}
+
+// The number that a name is, written without leading zeros.
+std::optional<std::size_t> numberOf(std::string_view name) {
+  constexpr std::size_t kMostDigits = 9;
+  const bool leadingZero = name.size() > 1 && name.front() == '0';
+  if (name.empty() || name.size() > kMostDigits || leadingZero) return std::nullopt;
+  std::size_t number = 0;
+  for (const char byte : name) {
+    if (byte < '0' || byte > '9') return std::nullopt;
+    number = 10 * number + static_cast<std::size_t>(byte - '0');
+  }
+  return number;
+}
+
+bool isEntryOf(const ProfileLine& line, std::string_view key) {
+  return line.kind() == LineKind::entry && sameName(line.name(), key);
+}
+
+void countOn(ProfileSection& section) {
+  while (section.counted < section.lines.size()) {
+    const ProfileLine& next = section.lines[section.counted];
+    if (next.kind() != LineKind::entry || numberOf(next.name()) != section.counted) return;
+    ++section.counted;
+  }
 }
 
 // False for a name that a reader would take for something else; such a line is rare and looked at as a reader does.
@@ -40,35 +64,42 @@ std::string_view upToValue(const ProfileLine& entry) {
   return entry.bytes().substr(0, static_cast<std::size_t>(value.data() - entry.bytes().data()));
 }
 
-// Quick and careful: false also for some texts that are ASCII without line ends.
-bool isPlain(std::string_view text) {
-  constexpr std::uint64_t kEach = 0x0101010101010101U;
-  for (std::uint64_t word = 0; text.size() >= sizeof word; text.remove_prefix(sizeof word)) {
-    std::memcpy(&word, text.data(), sizeof word);
-    const std::uint64_t belowBlank = word - kEach * ' ';
-    if (((word | belowBlank) & (kEach * 0x80)) != 0) return false;
+bool isOneLine(std::string_view text) {
+  while (!text.empty()) {
+    const char byte = text.front();
+    if (byte == '\r' || byte == '\n') return false;
+    if (static_cast<unsigned char>(byte) < 0x80) {
+      text.remove_prefix(1);
+    } else {
+      const std::size_t size = text.size();
+      takeCodePoint(text);
+      if (size - text.size() == 1) return false;  // ill-formed
+    }
   }
-  return std::all_of(text.begin(), text.end(), [](char byte) { return byte >= ' ' && byte <= '~'; });
+  return true;
 }
 
-bool isOneLine(std::string_view text) {
-  constexpr std::size_t kNone = std::string_view::npos;
-  return isPlain(text) || (text.find('\r') == kNone && text.find('\n') == kNone && isUtf8File(text));
+// New lines end as the first one does; of a file without any, as the format has it.
+std::string_view firstLineEnd(std::string_view text) {
+  LineReader reader(text);
+  const std::string_view end = reader.atEnd() ? std::string_view() : lineEndOf(reader.next());
+  return end.empty() ? kLineBreak : end;
 }
 
 }  // namespace
 
 ProfileSections::ProfileSections(std::string text)
-    : source_(std::move(text)), sections_(1), lineEnd_(kLineBreak), lacksLineEnd_(lineEndOf(source_).empty()) {
-  LineReader reader(source_);
-  for (bool first = true; !reader.atEnd(); first = false) {
-    const ProfileLine line = asProfileLine(reader.next());
-    if (first && !lineEndOf(line.bytes()).empty()) lineEnd_ = lineEndOf(line.bytes());
-    if (line.kind() == LineKind::header) {
-      sections_.emplace_back().header = line;
-    } else {
-      sections_.back().lines.push_back(line);
-    }
+    : source_(std::move(text)),
+      sections_(1),
+      lineEnd_(firstLineEnd(source_)),
+      lacksLineEnd_(lineEndOf(source_).empty()) {
+  for (LineReader reader(source_); !reader.atEnd();) {
+    std::deque<ProfileLine>& lines = sections_.back().lines;
+    const ProfileLine& line = lines.emplace_back(reader.next());
+    if (line.kind() != LineKind::header) continue;
+    const ProfileLine header = line;
+    lines.pop_back();
+    sections_.emplace_back().header = header;
   }
   names_.reset(sections_.size());
   for (std::uint32_t at = 1; at < sections_.size(); ++at) names_.add(sections_[at].header.name(), at);
@@ -88,17 +119,21 @@ ProfileSection* ProfileSections::find(std::string_view name) {
 }
 
 ProfileLine* ProfileSections::findEntry(ProfileSection& section, std::string_view key) {
+  countOn(section);
+  if (const auto number = numberOf(key); number && *number < section.counted) {
+    ProfileLine& line = section.lines[*number];
+    if (isEntryOf(line, key)) return &line;
+  }
+  // Then there is no line that could be any other key.
+  if (section.counted == section.lines.size()) return nullptr;
   if (!section.indexed) indexKeys(section);
-  const auto found = section.keys.find(key, [&](std::uint32_t at) {
-    const ProfileLine& line = section.lines[at];
-    return line.kind() == LineKind::entry && sameName(line.name(), key);
-  });
+  const auto found = section.keys.find(key, [&](std::uint32_t at) { return isEntryOf(section.lines[at], key); });
   return found ? &section.lines[*found] : nullptr;
 }
 
 ProfileSection& ProfileSections::addSection(std::string_view name) {
   if (ProfileLine* const last = lastLine()) supplyLineEnd(*last);
-  const ProfileLine header = asProfileLine(added_.keep("[", name, "]", lineEnd_));
+  const ProfileLine header(added_.keep("[", name, "]", lineEnd_));
   names_.add(header.name(), static_cast<std::uint32_t>(sections_.size()));
   sections_.emplace_back().header = header;
   return sections_.back();
@@ -112,9 +147,9 @@ bool ProfileSections::addEntry(ProfileSection& section, std::string_view key, st
   if (section.indexed) section.keys.add(key, static_cast<std::uint32_t>(place - section.lines.begin()));
   const bool asMeant = readsBackAsKey(key);
   if (asMeant) {
-    section.lines.emplace(place, LineKind::entry, bytes, bytes.substr(0, key.size()));
+    section.lines.emplace(place, bytes, key.size());
   } else {
-    section.lines.insert(place, asProfileLine(bytes));
+    section.lines.emplace(place, bytes);
   }
   return asMeant;
 }
@@ -126,10 +161,11 @@ void ProfileSections::changeValue(ProfileLine& entry, std::string_view value) {
 bool ProfileSections::setLines(ProfileSection& section, std::span<const std::string> lines) {
   if (!lines.empty()) supplyLineEnd(section.header);
   section.lines.clear();
+  section.counted = 0;
   section.indexed = false;
   bool noHeaders = true;
   for (const std::string& line : lines) {
-    section.lines.push_back(asProfileLine(added_.keep(asOneLine(line), lineEnd_)));
+    section.lines.emplace_back(added_.keep(asOneLine(line), lineEnd_));
     noHeaders = noHeaders && section.lines.back().kind() != LineKind::header;
   }
   return noHeaders;

@@ -20,8 +20,11 @@ namespace base {
 struct ProfileSection {
   ProfileLine header;  // of no bytes also for the lines before the first header
   std::deque<ProfileLine> lines;
+  // The keys of long sections count up from 0 and need no index: as far as they have been looked at, the key "7" stands
+  // in lines[7], or was there until it was deleted.
+  std::size_t counted = 0;
   NameIndex keys;
-  bool indexed = false;  // a section that is never asked for a key needs no index
+  bool indexed = false;
 };
 
 class ProfileSections {

@@ -41,7 +41,7 @@ TEST(ProfileFile, ReadsValues) {
       {"a single quote is no pair", "[s]\na=\"", "s", "a", "\""},
       {"unequal quotes stay", "[s]\na='x\"", "s", "a", "'x\""},
       {"a mark in front is no text", "\xEF\xBB\xBF[s]\na=ß", "s", "a", "ß"},
-      {"NUL is a character", "[s]\na=x\0y\n\0=2"s, "s", "a", "x\0y"s},
+      {"a value ends at a NUL", "[s]\na=x\0y\n\0=2"s, "s", "a", "x"},
       {"line ends may be mixed", "[s]\ra=1\r\n\nb=2\rc=3\n", "s", "c", "3"},
       {"a file of nothing", "", "s", "a", std::nullopt},
   };
@@ -142,6 +142,18 @@ TEST(ProfileFile, FindsEveryKeyWhileTheyComeAndGo) {
   EXPECT_EQ(file.value("s", "X", 255), "0");
   file.deleteKey("s", "x");
   EXPECT_EQ(file.value("s", "x", 255), "1");
+}
+
+TEST(ProfileFile, FindsNumberedKeysAfterGapsAndDuplicates) {
+  ProfileFile file = ProfileFile::parse("[s]\n0=a\n1=b\n2=c\n1=d\n");
+  EXPECT_EQ(file.value("s", "2", 255), "c");
+  EXPECT_EQ(file.value("s", "01", 255), std::nullopt);
+  file.deleteKey("s", "1");
+  EXPECT_EQ(file.value("s", "1", 255), "d");
+  for (const char* key : {"1", "2", "0"}) file.deleteKey("s", key);
+  for (const char* key : {"2", "1", "x", "0"}) file.setValue("s", key, key);
+  for (const char* key : {"0", "1", "2", "x"}) EXPECT_EQ(file.value("s", key, 255), key);
+  EXPECT_EQ(file.bytes(), "[s]\n2=2\n1=1\nx=x\n0=0\n");
 }
 
 TEST(ProfileFile, KeepsTheEncodingOfTheFile) {
