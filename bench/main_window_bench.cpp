@@ -10,6 +10,7 @@
 #include <string>
 
 #include "app/lifecycle/program.h"
+#include "app/lifecycle/wire.h"
 #include "calc/price_database.h"
 #include "measure.h"
 #include "ui/main_form.h"

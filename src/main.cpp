@@ -1,6 +1,9 @@
 // The program's entry: the terminal form when the first argument asks for it, else the windows.
+#include <algorithm>
 #include <iostream>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/lifecycle/version.h"
@@ -13,27 +16,32 @@ constexpr const char* kHelp =
     R"(Aufruf: tessik [--daten DIR]               öffnet das Programm
         tessik kalkuliere [Optionen]        rechnet ohne Bildschirm (tessik kalkuliere --help)
 
-  --daten DIR   Verzeichnis mit den Datendateien Ostrowerk.ini, Tessik.ini und Tessik.pdb
-  --help        diese Hilfe
-  --version     die Version
+  --daten DIR            Verzeichnis mit den Datendateien Ostrowerk.ini, Tessik.ini und Tessik.pdb
+  --exit-after-startup   endet, sobald das Hauptfenster vollständig zu sehen ist
+  --help                 diese Hilfe
+  --version              die Version
 )";
+
+bool asksFor(const std::vector<std::string>& arguments, std::string_view option) {
+  return std::find(arguments.begin(), arguments.end(), option) != arguments.end();
+}
 
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::vector<std::string> arguments(argv + 1, argv + argc);
-  const std::string first = arguments.empty() ? std::string() : arguments.front();
-  if (first == "kalkuliere") {
+  if (!arguments.empty() && arguments.front() == "kalkuliere") {
+    // Without the C library's buffers a failing read of the standard input is told from its end.
+    std::ios::sync_with_stdio(false);
     return terminal::runPriceCommand(std::span(arguments).subspan(1),
                                      {.in = std::cin, .out = std::cout, .error = std::cerr});
   }
-  if (first == "--help") {
+  if (asksFor(arguments, "--help")) {
     std::cout << kHelp;
-    return 0;
-  }
-  if (first == "--version") {
+  } else if (asksFor(arguments, "--version")) {
     std::cout << app::lifecycle::versionLine() << '\n';
-    return 0;
+  } else {
+    return ui::runApplication(argc, argv);
   }
-  return ui::runApplication(argc, argv, arguments);
+  return 0;
 }

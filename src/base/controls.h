@@ -166,6 +166,7 @@ struct Window {
   std::string_view name;
   std::string caption;  // empty: the one that the form draws
   WindowState state = WindowState::normal;
+  bool keepsOpen = false;  // set by the procedure of Event::closing to refuse it
 };
 
 }  // namespace base

@@ -21,6 +21,7 @@ constexpr std::array kErrors = {
     Entry{ErrorNumber::indexOutOfRange, "Index außerhalb des gültigen Bereichs"},
     Entry{ErrorNumber::divisionByZero, "Division durch Null"},
     Entry{ErrorNumber::typeMismatch, "Typen unverträglich: Hier wird eine Zahl erwartet"},
+    Entry{ErrorNumber::internal, "Interner Fehler"},
     Entry{ErrorNumber::badFileName, "Ungültiger Dateiname"},
     Entry{ErrorNumber::fileNotFound, "Datei nicht gefunden"},
     Entry{ErrorNumber::deviceIo, "Ein-/Ausgabefehler des Geräts"},

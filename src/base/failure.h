@@ -17,6 +17,7 @@ enum class ErrorNumber : int {
   indexOutOfRange = 9,
   divisionByZero = 11,
   typeMismatch = 13,
+  internal = 51,
   badFileName = 52,
   fileNotFound = 53,
   deviceIo = 57,

@@ -62,6 +62,13 @@ double leadingNumber(std::string_view text) {
 
 double typedAmount(std::string_view text) { return leadingNumber(withDecimalPoint(text)); }
 
+bool isTypedNumber(std::string_view text) {
+  const std::string pointed = withDecimalPoint(text);
+  std::string_view rest = pointed;
+  if (rest.starts_with('-') || rest.starts_with('+')) rest.remove_prefix(1);
+  return rest.find_first_of(kDigits) != std::string_view::npos && magnitudeLength(rest) == rest.size();
+}
+
 std::optional<int> wholeNumber(std::string_view text) {
   text = withoutLeadingBlanks(text);
   text = text.substr(0, text.find_last_not_of(kBlanks) + 1);

@@ -17,6 +17,9 @@ double leadingNumber(std::string_view text);
 /// What a person typed as an amount: "," counts as ".", then as leadingNumber().
 double typedAmount(std::string_view text);
 
+/// Whether the whole of `text` is one number, "," counting as ".".
+bool isTypedNumber(std::string_view text);
+
 /// `text` as a whole number, blanks around it ignored; nothing when it is anything else or beyond 32 bits.
 std::optional<int> wholeNumber(std::string_view text);
 

@@ -53,6 +53,9 @@ struct CharFormat {
   bool operator==(const CharFormat&) const = default;
 };
 
+/// A type size as it is shown: "24", "10.5".
+std::string pointsText(double points);
+
 /// Where the caret stands, which is at the end of what select() selected: line and column, both from 1, lines as line
 /// ends part them, columns in code points.
 struct Caret {

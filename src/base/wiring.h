@@ -30,6 +30,7 @@ enum class Event {
   rightPress,  // the right mouse button went down
   leaving,     // the user takes the focus elsewhere; a request for the focus keeps it
   tick,        // a timer's interval has passed
+  closing,     // a window is about to close; its keepsOpen says whether it may
 };
 
 /// What becomes of a typed or pasted character: another one, itself, or nothing when the field refuses it.

@@ -125,14 +125,14 @@ void colourTotals(Run& run) {
   const bool negative = base::leadingNumber(window.lblPreisNettoGesamt.text) < 0;
   for (base::Label* label : {&window.lblPreisNettoGesamt, &window.lblMwstG, &window.lblBruttoGesamt, &window.lblNettoDM,
                              &window.lblMwstG1, &window.lblBruttoDM}) {
-    label->colour = negative ? kNegativeTotal : kPositiveTotal;
+    label->colour = negative ? app::frame::kNegativeTotal : app::frame::kPositiveTotal;
   }
 }
 
 void showCharacterGrossAndHeight(Run& run) {
   app::frame::MainWindow& window = run.window;
   if (window.cboBuchstabenhöhe.selected > std::numeric_limits<std::int16_t>::max()) {
-    throw base::Failure(base::ErrorNumber::overflow);
+    throw base::Failure(base::ErrorNumber::overflow, "Überlauf: Höchstens 32.768 Buchstabenhöhen sind wählbar.");
   }
   run.results.SelectedHeightIndex = static_cast<std::int16_t>(window.cboBuchstabenhöhe.selected);
   show(window.lblEinzelBrutto,
@@ -142,29 +142,34 @@ void showCharacterGrossAndHeight(Run& run) {
        "Texthöhe in " + run.parts.rates.unit + ": ");
 }
 
-void enableInputs(Run& run) {
-  app::frame::MainWindow& window = run.window;
-  const bool adjustable = run.pricePerCharacter > 0 && run.results.TextLength >= 1;
-  for (base::Control* input : std::initializer_list<base::Control*>{
-           &window.txtProzent, &window.txtRabatt, &window.txtProzentDM, &window.txtRabattDM, &window.cboAufpreis,
-           &window.cboRabatt, &window.cmdAufpreisListe, &window.cmdRabatteListe}) {
-    input->enabled = adjustable;
-  }
+void enable(std::initializer_list<base::Control*> controls, bool enabled) {
+  for (base::Control* const control : controls) control->enabled = enabled;
 }
 
-void showCaret(Run& run) {
-  const base::Caret caret = run.parts.document.caret();
-  run.window.lblZeile.text = attributeLine(run.parts.document.format()) + " / Ze, Pos: " + std::to_string(caret.line) +
-                             ", " + std::to_string(caret.column);
+void enableInputs(Run& run) {
+  app::frame::MainWindow& w = run.window;
+  const bool hasText = run.results.TextLength >= 1;
+  enable({&w.txtProzent, &w.txtRabatt, &w.txtProzentDM, &w.txtRabattDM, &w.cboAufpreis, &w.cboRabatt,
+          &w.cmdAufpreisListe, &w.cmdRabatteListe},
+         hasText && run.pricePerCharacter > 0);
+  enable({&w.mnuCut, &w.mnuCopy, &w.mnuDelete, &w.mnuMarkAll}, hasText);
 }
 
 }  // namespace
 
 std::string attributeLine(const base::CharFormat& format) {
-  std::string points = base::storedAmount(format.points);
-  if (points.ends_with(".00")) points.resize(points.size() - 3);
-  return "Font: " + format.family + " / Größe: " + points + " (" + (format.bold ? "F" : "S") + "/" +
-         (format.italic ? "K" : "S") + "/" + (format.underline ? "U" : "S") + ")";
+  return "Font: " + format.family + " / Größe: " + base::pointsText(format.points) + " (" + (format.bold ? "F" : "S") +
+         "/" + (format.italic ? "K" : "S") + "/" + (format.underline ? "U" : "S") + ")";
+}
+
+void showStatus(const CalcParts& parts) {
+  const base::Caret caret = parts.document.caret();
+  parts.window.lblZeile.text = attributeLine(parts.document.format()) + " / Ze, Pos: " + std::to_string(caret.line) +
+                               ", " + std::to_string(caret.column);
+  const bool adds = parts.results.pieceAddition != Currency();
+  parts.window.lblZusatz.visible = adds;
+  parts.window.lblZusatz.text =
+      adds ? "Zusatz je Stück: " + euroText(parts.results.pieceAddition, parts.format) : std::string();
 }
 
 void Calc(const CalcParts& parts) {
@@ -182,7 +187,7 @@ void Calc(const CalcParts& parts) {
     colourTotals(run);
     showCharacterGrossAndHeight(run);
     enableInputs(run);
-    showCaret(run);
+    showStatus(parts);
   });
 }
 

@@ -13,9 +13,6 @@ namespace calc {
 
 inline constexpr std::string_view kCalcTag = "MAIN-Calc";
 
-inline constexpr base::Rgb kNegativeTotal = 0xFF0000;
-inline constexpr base::Rgb kPositiveTotal = 0x00C000;
-
 /// What a calculation reads and writes. Texts that are no numbers count as 0.
 struct CalcParts {
   app::frame::MainWindow& window;
@@ -28,6 +25,10 @@ struct CalcParts {
 /// The attributes of the type at the caret: "Font: Arial / Größe: 8 (S/S/S)"; F, K, U stand where S (standard) does
 /// not.
 std::string attributeLine(const base::CharFormat& format);
+
+/// Shows the attributes of the type, line and position of the caret in the status line, and the piece addition while
+/// there is one, for it prices the next job too.
+void showStatus(const CalcParts& parts);
 
 /// One run, under its own tag. Nothing happens when the selection is exactly one line end. A failure (error 6, a number
 /// that is too large) leaves what was written before it.

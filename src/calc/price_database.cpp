@@ -9,12 +9,18 @@
 #include "base/text.h"
 
 namespace calc {
+namespace {
+
+constexpr std::size_t kShownOfPrice = 20;  // of a price that is too long
+
+}  // namespace
 
 std::string alignedPrice(const std::string& price) {
   const std::size_t length = base::codePointCount(price);
   if (length > kPriceWidth) {
-    throw base::Failure(base::ErrorNumber::invalidCall,
-                        "Der Preis \"" + price + "\" in der Preisdatenbank ist zu lang (höchstens 16 Zeichen).");
+    throw base::Failure(base::ErrorNumber::invalidCall, "Preisdatenbank: Der Preis \"" +
+                                                            std::string(base::firstCodePoints(price, kShownOfPrice)) +
+                                                            "…\" ist zu lang, höchstens 16 Zeichen haben Platz.");
   }
   return std::string(kPriceWidth - length, ' ') + base::withDecimalPoint(price);
 }

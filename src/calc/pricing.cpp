@@ -52,7 +52,9 @@ Currency markGross(Currency markNetTotal, int vatPercent) {
 double amountOfPercentage(Currency net, double percent) { return net.toDouble() * percent / 100; }
 
 double percentageOfAmount(Currency net, double amount) {
-  if (net == Currency()) throw base::Failure(base::ErrorNumber::divisionByZero);
+  if (net == Currency())
+    throw base::Failure(base::ErrorNumber::divisionByZero,
+                        "Division durch Null: Der Nettopreis ist 0, davon gibt es keinen Prozentsatz.");
   return (net.toDouble() + amount) * 100 / net.toDouble() - 100;
 }
 

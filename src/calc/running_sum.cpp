@@ -16,7 +16,9 @@ void showSum(app::frame::MainWindow& window, const base::NumberFormat& format) {
 }
 
 void addByHand(app::frame::MainWindow& window, const base::NumberFormat& format) {
-  const std::string entry = entryText(base::typedAmount(window.txtAddPerHand.text));
+  const double amount = base::typedAmount(window.txtAddPerHand.text);
+  base::Currency::fromDouble(amount);  // what no sum could hold fails here, before it stands in the list
+  const std::string entry = entryText(amount);
   if (base::leadingNumber(entry) != 0) {
     window.cboCalc.items.add(entry);
     window.txtAddPerHand.wantsSelectAll = true;

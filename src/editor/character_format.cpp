@@ -2,25 +2,44 @@
 #include "editor/character_format.h"
 
 #include <algorithm>
+#include <string>
+
+#include "base/money.h"
+#include "base/number.h"
 
 namespace editor {
+namespace {
+
+// A text that is no item, such as a typeface that is not installed, is shown all the same.
+void showIn(base::ComboBox& box, const std::string& text) {
+  if (box.text == text) return;
+  const auto found = std::find(box.items.begin(), box.items.end(), text);
+  box.selected = found == box.items.end() ? -1 : static_cast<int>(found - box.items.begin());
+  box.text = text;
+}
+
+}  // namespace
 
 base::CharFormat startFormat() { return {.family = "Arial", .points = 24}; }
 
-void chooseTypeface(const app::frame::MainWindow& window, base::RichText& document) {
-  if (window.cboFontSelect.text.empty()) return;
+void applyFormat(const app::frame::MainWindow& window, base::RichText& document) {
   base::CharFormat format = document.format();
-  format.family = window.cboFontSelect.text;
+  if (!window.cboFontSelect.text.empty()) format.family = window.cboFontSelect.text;
+  const double points = base::typedAmount(window.cboFontSize.text);
+  if (points > 0) format.points = points;
+  format.bold = window.cmdFett.pressed;
+  format.italic = window.cmdKursiv.pressed;
+  format.underline = window.cmdUnterstrichen.pressed;
   document.setFormat(format);
 }
 
 void showFormat(app::frame::MainWindow& window, const base::RichText& document) {
-  const std::string family = document.format().family;
-  base::ComboBox& box = window.cboFontSelect;
-  if (box.text == family) return;
-  const auto found = std::find(box.items.begin(), box.items.end(), family);
-  box.selected = found == box.items.end() ? -1 : static_cast<int>(found - box.items.begin());
-  box.text = family;  // also of a typeface that is not installed
+  const base::CharFormat format = document.format();
+  showIn(window.cboFontSelect, format.family);
+  showIn(window.cboFontSize, base::pointsText(format.points));
+  window.cmdFett.pressed = format.bold;
+  window.cmdKursiv.pressed = format.italic;
+  window.cmdUnterstrichen.pressed = format.underline;
 }
 
 }  // namespace editor

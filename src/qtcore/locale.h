@@ -1,6 +1,7 @@
 // The user's locale and Unicode normalization, from the toolkit's core, for the screen and the terminal form alike.
 #pragma once
 
+#include <QString>
 #include <string>
 #include <string_view>
 
@@ -12,7 +13,12 @@ namespace qtcore {
 /// POSIX and names the toolkit does not know count as German.
 base::NumberFormat userNumberFormat();
 
-/// `text` in normalization form C.
+/// `text` in normalization form C. Linear in its length, which the toolkit's own function is not for decomposed text.
 std::string composed(std::string_view text);
+QString composed(const QString& text);
+
+/// Text files of the kind that Windows calls "Unicode": UTF-16 of either byte order behind its mark.
+bool isMarkedUtf16(std::string_view bytes);
+std::string fromMarkedUtf16(std::string_view bytes);
 
 }  // namespace qtcore

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "base/text.h"
-#include "calc/calc.h"
 
 namespace terminal {
 namespace {
@@ -52,6 +51,13 @@ const ResultLabel& resultLabel(std::string_view name) {
                        [name](const ResultLabel& l) { return l.name == name; });
 }
 
+// The cap height tells its unit as the window does.
+std::string captionOf(const ResultLabel& entry, const MainWindow& window) {
+  if (entry.label != &MainWindow::lbltexthöhe) return std::string(entry.caption);
+  const std::string& text = window.lblTH.text;
+  return text.substr(0, text.rfind(':'));
+}
+
 std::string padding(std::size_t width, std::string_view text) {
   const std::size_t length = base::codePointCount(text);
   return std::string(width > length ? width - length : 0, ' ');
@@ -59,16 +65,15 @@ std::string padding(std::size_t width, std::string_view text) {
 
 std::string jsonText(std::string_view text) {
   std::string result = "\"";
-  for (const char c : text) {
-    if (c == '"' || c == '\\') {
-      result += '\\';
-      result += c;
-    } else if (static_cast<unsigned char>(c) < 0x20) {
+  while (!text.empty()) {
+    const char32_t c = base::takeCodePoint(text);
+    if (c == U'"' || c == U'\\') result += '\\';
+    if (c < 0x20) {
       std::array<char, 8> escape{};
       std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(c));
       result += escape.data();
     } else {
-      result += c;
+      base::appendCodePoint(result, c);
     }
   }
   return result + '"';
@@ -81,14 +86,15 @@ std::string table(const MainWindow& window) {
   std::size_t valueWidth = 0;
   for (const ResultLabel& entry : kResultLabels) {
     if (entry.caption.empty()) continue;
-    captionWidth = std::max(captionWidth, base::codePointCount(entry.caption));
+    captionWidth = std::max(captionWidth, base::codePointCount(captionOf(entry, window)));
     valueWidth = std::max(valueWidth, base::codePointCount((window.*entry.label).text));
   }
   std::string result;
   for (const std::string_view name : kTableOrder) {
     const ResultLabel& entry = resultLabel(name);
     const std::string& value = (window.*entry.label).text;
-    result.append(entry.caption).append(padding(captionWidth + 2, entry.caption));
+    const std::string caption = captionOf(entry, window);
+    result.append(caption).append(padding(captionWidth + 2, caption));
     result.append(padding(valueWidth, value)).append(value).append("\n");
   }
   return result;
@@ -101,7 +107,7 @@ std::string json(const MainWindow& window) {
     result += jsonText(entry.name) + ": {\"text\": " + jsonText(label.text) +
               ", \"tip\": " + (label.toolTip.empty() ? "null" : jsonText(label.toolTip)) + "}, ";
   }
-  const bool red = window.lblPreisNettoGesamt.colour == calc::kNegativeTotal;
+  const bool red = window.lblPreisNettoGesamt.colour == app::frame::kNegativeTotal;
   return result + "\"rot\": " + (red ? "true" : "false") + "}\n";
 }
 

@@ -3,39 +3,46 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QLibraryInfo>
-#include <QTranslator>
 #include <iostream>
 #include <optional>
+#include <span>
+#include <string>
+#include <string_view>
 
 #include "app/lifecycle/program.h"
 #include "app/lifecycle/program_directory.h"
 #include "app/lifecycle/start_up.h"
-#include "app/settings/pricing_settings.h"
+#include "app/lifecycle/wire.h"
+#include "ui/appearance.h"
+#include "ui/dialogs.h"
 #include "ui/main_form.h"
 #include "ui/qt_platform.h"
-#include "ui/utf8.h"
-#include "ui_picker.h"
 
 namespace ui {
 namespace {
 
 using app::lifecycle::Program;
+using app::lifecycle::StartUp;
 
+constexpr int kExitNotStarted = 1;
 constexpr int kExitWrongArgument = 2;
 
 struct Options {
   std::optional<std::string> programDirectory;
+  bool exitAfterStartUp = false;
 };
 
 // Nothing when an argument is wrong, which has been told then.
-std::optional<Options> parse(const QStringList& arguments) {
+std::optional<Options> parse(std::span<const char* const> arguments) {
   Options options;
-  for (qsizetype i = 1; i < arguments.size(); ++i) {
-    if (arguments[i] == QLatin1String("--daten") && i + 1 < arguments.size()) {
-      options.programDirectory = toUtf8(arguments[++i]);
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string_view argument = arguments[i];
+    if (argument == "--daten" && i + 1 < arguments.size()) {
+      options.programDirectory = arguments[++i];
+    } else if (argument == "--exit-after-startup") {
+      options.exitAfterStartUp = true;
     } else {
-      std::cerr << "tessik: Unbekanntes oder unvollständiges Argument \"" << toUtf8(arguments[i])
+      std::cerr << "tessik: Unbekanntes oder unvollständiges Argument \"" << argument
                 << "\" (tessik --help zeigt die Optionen)\n";
       return std::nullopt;
     }
@@ -43,20 +50,9 @@ std::optional<Options> parse(const QStringList& arguments) {
   return options;
 }
 
-// The buttons of message boxes and the context menus of the toolkit are German with this.
-void speakGerman(QApplication& application) {
-  auto* const translator = new QTranslator(&application);
-  if (translator->load(QLocale(QLocale::German), QStringLiteral("qtbase"), QStringLiteral("_"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(translator);
-  }
-}
-
-ShownWindow buildPicker(Program& program, QWidget& parent, Gate& gate, Sync& sync) {
-  auto* const dialog = new QDialog(&parent);
-  Ui::PickerForm drawn;
-  drawn.setupUi(dialog);
-  return {.dialog = dialog, .bindings = &bind(program.picker, *dialog, program.wiring, gate, sync)};
+bool hasDisplay() {
+  return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+         !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
 // The program and everything it needs on the screen, in the order in which one outlives the other.
@@ -65,44 +61,68 @@ class Desktop {
   explicit Desktop(const Options& options) {
     gate_.setBeep([this] { platform_.beep(); });
     gate_.setLastResort([this](const std::exception& fault) {
-      platform_.messageBox({.text = fault.what(), .title = "Fehler", .icon = base::MessageIcon::stop});
+      reporter_.report(base::Failure(base::ErrorNumber::internal, fault.what()));
     });
-    program_.paths.programDirectory =
-        app::lifecycle::programDirectory(app::lifecycle::directoryCandidates(options.programDirectory));
+    const auto candidates = app::lifecycle::directoryCandidates(options.programDirectory);
+    const auto directory = app::lifecycle::programDirectory(candidates);
+    program_.paths.programDirectory = directory.path;
+    program_.createsDirectory = directory.isUsersOwn;
+    program_.information.directory = directory.path;
     app::lifecycle::wire(program_, parts_);
-    platform_.offerWindow(program_.picker.name, [this] { return buildPicker(program_, form_, gate_, sync_); });
-    BoundWindow& bound = form_.bindTo(program_.main, program_.wiring, gate_, sync_);
-    sync_.open(bound);
-    gate_.userEvent([this] {
-      app::errors::reporting(reporter_, "MAIN-frmLoad", [this] {
-        app::lifecycle::loadTypefaces(parts_);
-        program_.settings = app::settings::readForPricing(program_.paths);
-        app::lifecycle::loadLists(parts_);
-      });
-    });
-    form_.show();
+    offerWindows();
+    form_.restoreLayout();
+    if (options.exitAfterStartUp) form_.whenPainted([this] { form_.close(); });
+    sync_.open(bound_);
+  }
+
+  /// The load handler; what follows it runs in the event loop.
+  StartUp load() {
+    StartUp result = StartUp::ends;
+    gate_.userEvent([&] { result = app::lifecycle::load(program_, parts_); });
+    return result;
   }
 
  private:
+  void offerWindows() {
+    platform_.offerWindow(program_.main.name, [this] { return ShownWindow{&form_, &bound_}; });
+    platform_.offerWindow(program_.loading.name,
+                          [this] { return bound(program_.loading, *makeLoadingScreen(&form_)); });
+    platform_.offerWindow(program_.picker.name, [this] { return bound(program_.picker, *makePicker(&form_)); });
+  }
+
+  template <typename Model>
+  ShownWindow bound(Model& model, QDialog& dialog) {
+    return {.widget = &dialog, .bindings = &bind(model, dialog, program_.wiring, gate_, sync_)};
+  }
+
   Gate gate_;
   Sync sync_{gate_};
   QtPlatform platform_{gate_, sync_};
-  app::errors::Reporter reporter_{platform_};
   Program program_;
+  app::errors::Reporter reporter_{platform_, program_.information};
   MainForm form_;
   app::commands::MainParts parts_ = app::lifecycle::mainParts(program_, platform_, form_.document(), reporter_);
+  BoundWindow& bound_ = form_.bindTo(program_.main, program_.wiring, gate_, sync_);
 };
 
 }  // namespace
 
-int runApplication(int argc, char** argv, const std::vector<std::string>& /*arguments*/) {
+int runApplication(int argc, char** argv) {
+  const auto options = parse(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
+  if (!options) return kExitWrongArgument;
+  if (!hasDisplay()) {
+    std::cerr << "tessik: Hier ist kein Bildschirm zu erreichen (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt). Ohne "
+                 "Bildschirm rechnet \"tessik kalkuliere --text TEXT\".\n";
+    return kExitNotStarted;
+  }
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Tessik"));
   QApplication::setDesktopFileName(QStringLiteral("tessik"));
-  speakGerman(application);
-  const auto options = parse(QApplication::arguments());
-  if (!options) return kExitWrongArgument;
-  const Desktop desktop(*options);
+  // The loading screen goes before the main window comes; only closing that one ends the program.
+  QApplication::setQuitOnLastWindowClosed(false);
+  setUpAppearance(application);
+  Desktop desktop(*options);
+  if (desktop.load() == StartUp::ends) return kExitNotStarted;
   return QApplication::exec();
 }
 

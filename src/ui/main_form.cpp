@@ -1,10 +1,21 @@
 // The main window on the screen.
 #include "ui/main_form.h"
 
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QTimer>
+#include <utility>
+
+#include "ui/appearance.h"
+#include "ui/input_guard.h"
+#include "ui/user_settings.h"
 #include "ui_main_window.h"
 
 namespace ui {
 namespace {
+
+constexpr const char* kGeometryKey = "Hauptfenster";
+constexpr const char* kSplitterKey = "Teiler";
 
 std::unique_ptr<Ui::MainWindowForm> drawnOn(QMainWindow& window) {
   auto drawn = std::make_unique<Ui::MainWindowForm>();
@@ -12,30 +23,70 @@ std::unique_ptr<Ui::MainWindowForm> drawnOn(QMainWindow& window) {
   return drawn;
 }
 
+// The lettering stands on white paper, whatever the palette.
+void makePaperWhite(QWidget& paper) {
+  QPalette palette = paper.palette();
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::PlaceholderText, Qt::darkGray);
+  paper.setPalette(palette);
+}
+
 }  // namespace
 
 MainForm::MainForm() : drawn_(drawnOn(*this)), document_(*drawn_->rtfText) {
-  // A label of its own in the status bar instead of showMessage(), which every status tip would overwrite.
+  // Labels of our own in the status bar instead of showMessage(), which every status tip would overwrite.
   drawn_->fixStatus->addWidget(drawn_->lblZeile);
+  drawn_->fixStatus->addPermanentWidget(drawn_->lblHinweis);
+  drawn_->fixStatus->addPermanentWidget(drawn_->lblZusatz);
   drawn_->fixTeiler->setStretchFactor(0, 1);
   drawn_->fixTeiler->setStretchFactor(1, 0);
-  // The lettering stands on white paper, whatever the palette.
-  QPalette paper = drawn_->rtfText->palette();
-  paper.setColor(QPalette::Base, Qt::white);
-  paper.setColor(QPalette::Text, Qt::black);
-  paper.setColor(QPalette::PlaceholderText, Qt::darkGray);
-  drawn_->rtfText->setPalette(paper);
+  makePaperWhite(*drawn_->rtfText);
   drawn_->rtfText->setFocus();
 }
 
 MainForm::~MainForm() = default;
 
 BoundWindow& MainForm::bindTo(app::frame::MainWindow& window, const base::Wiring& wiring, Gate& gate, Sync& sync) {
-  const RichTextEdit* const edit = drawn_->rtfText;
+  RichTextEdit* const edit = drawn_->rtfText;
   connect(edit, &RichTextEdit::edited, this, firing(wiring, gate, document_, base::Event::changed));
   connect(edit, &RichTextEdit::caretMoved, this, firing(wiring, gate, document_, base::Event::selected));
   connect(edit, &RichTextEdit::released, this, firing(wiring, gate, document_, base::Event::released));
+  new InputGuard(gate, *edit);  // belongs to what it guards
+  new InputGuard(gate, *edit->viewport());
+  mayClose_ = [&window, &wiring, &gate] {
+    window.keepsOpen = false;
+    return gate.userEvent([&] { wiring.fire(window, base::Event::closing); }) && !window.keepsOpen;
+  };
   return bind(window, *this, wiring, gate, sync);
+}
+
+void MainForm::restoreLayout() {
+  if (const auto geometry = storedBytes(kGeometryKey)) restoreGeometry(*geometry);
+  setWindowState(Qt::WindowNoState);  // maximised only when the program's own key says so
+  if (const auto splitter = storedBytes(kSplitterKey)) drawn_->fixTeiler->restoreState(*splitter);
+}
+
+void MainForm::saveLayout() const {
+  storeBytes(kGeometryKey, saveGeometry());
+  storeBytes(kSplitterKey, drawn_->fixTeiler->saveState());
+}
+
+void MainForm::closeEvent(QCloseEvent* event) {
+  event->setAccepted(!mayClose_ || mayClose_());
+  if (!event->isAccepted()) return;
+  saveLayout();
+  QCoreApplication::quit();
+}
+
+void MainForm::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  if (painted_) QTimer::singleShot(0, this, std::exchange(painted_, nullptr));
+}
+
+void MainForm::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) followPalette();
 }
 
 }  // namespace ui

@@ -2,12 +2,19 @@
 #include "ui/qt_platform.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
 #include <QDialog>
 #include <QFontDatabase>
 #include <QMessageBox>
+#include <QScreen>
 
 #include "base/failure.h"
+#include "base/rich_text.h"
 #include "qtcore/locale.h"
+#include "ui/appearance.h"
+#include "ui/system_information.h"
+#include "ui/user_settings.h"
 #include "ui/utf8.h"
 
 namespace ui {
@@ -54,6 +61,13 @@ base::MessageAnswer answer(int button) {
   }
 }
 
+// Only dialogs are shown modally.
+QDialog& dialogOf(const ShownWindow& window) {
+  auto* const dialog = qobject_cast<QDialog*>(window.widget);
+  if (dialog == nullptr) throw base::Failure(base::ErrorNumber::internal);
+  return *dialog;
+}
+
 }  // namespace
 
 void QtPlatform::offerWindow(std::string_view name, std::function<ShownWindow()> build) {
@@ -64,7 +78,7 @@ ShownWindow& QtPlatform::shown(const base::Window& window) {
   const auto found = windows_.find(window.name);
   if (found == windows_.end()) throw base::Failure(base::ErrorNumber::invalidCall);
   Entry& entry = found->second;
-  if (entry.window.dialog == nullptr) entry.window = entry.build();
+  if (entry.window.widget == nullptr) entry.window = entry.build();
   return entry.window;
 }
 
@@ -81,11 +95,69 @@ void QtPlatform::showModal(base::Window& window) {
   const ShownWindow& form = shown(window);
   const Gate::ModalWait wait(gate_);
   sync_.open(*form.bindings);
-  form.dialog->exec();
+  dialogOf(form).exec();
   sync_.close(*form.bindings);
 }
 
-void QtPlatform::close(base::Window& window) { shown(window).dialog->done(QDialog::Accepted); }
+// A window that is not modal asks first whether it may close, once the procedure that wants it has ended.
+void QtPlatform::close(base::Window& window) {
+  QWidget* const widget = shown(window).widget;
+  if (auto* const dialog = qobject_cast<QDialog*>(widget)) {
+    dialog->done(QDialog::Accepted);
+  } else {
+    QMetaObject::invokeMethod(widget, &QWidget::close, Qt::QueuedConnection);
+  }
+}
+
+// Not modal, and it takes no focus from the main window.
+void QtPlatform::show(base::Window& window) {
+  const ShownWindow& form = shown(window);
+  sync_.open(*form.bindings);
+  form.widget->show();
+  lastRefresh_ = {};
+  refresh();
+}
+
+void QtPlatform::hide(base::Window& window) {
+  const ShownWindow& form = shown(window);
+  form.widget->hide();
+  sync_.close(*form.bindings);
+}
+
+void QtPlatform::refresh() {
+  constexpr std::chrono::milliseconds kFrame(16);
+  const auto moment = std::chrono::steady_clock::now();
+  if (moment - lastRefresh_ < kFrame) return;
+  sync_.pass();
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+  lastRefresh_ = std::chrono::steady_clock::now();
+}
+
+base::DateTime QtPlatform::now() const {
+  const QDateTime moment = QDateTime::currentDateTime();
+  const QDate date = moment.date();
+  const QTime time = moment.time();
+  return {.year = date.year(),
+          .month = date.month(),
+          .day = date.day(),
+          .hour = time.hour(),
+          .minute = time.minute(),
+          .second = time.second()};
+}
+
+int QtPlatform::screenWidth() const { return QGuiApplication::primaryScreen()->size().width(); }
+
+base::SystemInformation QtPlatform::systemInformation() const { return ui::systemInformation(); }
+
+std::string QtPlatform::systemRoot() const { return "/usr"; }
+
+std::string QtPlatform::clipboardText() const { return toUtf8(QGuiApplication::clipboard()->text()); }
+
+void QtPlatform::setClipboardText(std::string_view text) { QGuiApplication::clipboard()->setText(toQString(text)); }
+
+std::optional<std::string> QtPlatform::userSetting(std::string_view key) const { return storedUserSetting(key); }
+
+void QtPlatform::saveUserSettings(const std::vector<base::UserSetting>& settings) { storeUserSettings(settings); }
 
 void QtPlatform::beep() { QApplication::beep(); }
 
@@ -105,6 +177,7 @@ std::vector<std::string> QtPlatform::fontFamilies() const {
   for (const QString& family : QFontDatabase::families()) {
     if (!QFontDatabase::isPrivateFamily(family)) families.push_back(toUtf8(family));
   }
+  substituteMissing(base::CharFormat().family, families);
   return families;
 }
 

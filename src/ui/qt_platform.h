@@ -4,22 +4,25 @@
 // that what stood there before an error is visible behind its message.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/platform.h"
 #include "ui/gate.h"
 #include "ui/sync.h"
 
-class QDialog;
 class QWidget;
 
 namespace ui {
 
 /// A window on the screen with the bindings that keep it in step with its model.
 struct ShownWindow {
-  QDialog* dialog = nullptr;
+  QWidget* widget = nullptr;  // a QDialog where it is to be modal
   Carrier* bindings = nullptr;
 };
 
@@ -33,8 +36,19 @@ class QtPlatform : public base::Platform {
   base::MessageAnswer messageBox(const base::Message& message) override;
   void showModal(base::Window& window) override;
   void close(base::Window& window) override;
+  void show(base::Window& window) override;
+  void hide(base::Window& window) override;
+  void refresh() override;
   void beep() override;
   void setHourglass(base::Hourglass hourglass) override;
+  [[nodiscard]] base::DateTime now() const override;
+  [[nodiscard]] int screenWidth() const override;
+  [[nodiscard]] base::SystemInformation systemInformation() const override;
+  [[nodiscard]] std::string systemRoot() const override;
+  [[nodiscard]] std::string clipboardText() const override;
+  void setClipboardText(std::string_view text) override;
+  [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
+  void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   [[nodiscard]] base::NumberFormat numberFormat() const override;
   [[nodiscard]] std::string composed(std::string_view text) const override;
   [[nodiscard]] std::vector<std::string> fontFamilies() const override;
@@ -50,6 +64,7 @@ class QtPlatform : public base::Platform {
   Sync& sync_;
   std::map<std::string, Entry, std::less<>> windows_;
   bool hasHourglass_ = false;
+  std::chrono::steady_clock::time_point lastRefresh_;
 };
 
 }  // namespace ui

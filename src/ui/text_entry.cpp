@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/rich_text.h"
+#include "qtcore/locale.h"
 #include "ui/utf16_count.h"
 
 namespace ui {
@@ -88,7 +89,7 @@ Decomposed difference(const QString& cluster, const QString& composed, int posit
 
 // Cluster by cluster, so that what stands between two of them keeps its formats.
 void appendDecomposed(const QString& text, int position, std::vector<Decomposed>& found) {
-  if (!mayBeDecomposed(text) || text.normalized(QString::NormalizationForm_C) == text) return;
+  if (!mayBeDecomposed(text) || qtcore::composed(text) == text) return;
   for (qsizetype begin = 0; begin < text.size();) {
     const qsizetype end = clusterEnd(text, begin);
     const QString cluster = text.mid(begin, end - begin);
@@ -114,7 +115,7 @@ QString enteringText(const QString& text) {
     }
     i += units;
   }
-  return mayBeDecomposed(result) ? result.normalized(QString::NormalizationForm_C) : result;
+  return mayBeDecomposed(result) ? qtcore::composed(result) : result;
 }
 
 std::vector<Decomposed> findDecomposed(const QTextDocument& document, int from, int added) {

@@ -52,7 +52,9 @@ TEST(Adjustments, EachBoxKeepsItsPartnerInStep) {
 TEST(Adjustments, AnAmountOnNothingIsADivisionByZero) {
   PricedDesk desk;
   desk.type(desk.window.txtStück, "0");
-  desk.platform.expectMessage({.text = "Division durch Null", .title = "Fehler", .icon = base::MessageIcon::stop});
+  desk.platform.expectMessage({.text = "Division durch Null: Der Nettopreis ist 0, davon gibt es keinen Prozentsatz.",
+                               .title = "Fehler",
+                               .icon = base::MessageIcon::stop});
   desk.type(desk.window.txtProzentDM, "5");
   EXPECT_EQ(desk.window.txtProzent.text, "");
 }

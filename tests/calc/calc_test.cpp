@@ -141,10 +141,10 @@ TEST(Calc, ColoursTheTotalsByTheSignOnDisplay) {
     base::Rgb colour;
   };
   const Row rows[] = {
-      {"100.50", ",", calc::kPositiveTotal},
-      {"101.00", ",", calc::kNegativeTotal},
-      {"100.50", ".", calc::kNegativeTotal},
-      {"100.00", ".", calc::kPositiveTotal},
+      {"100.50", ",", app::frame::kPositiveTotal},
+      {"101.00", ",", app::frame::kNegativeTotal},
+      {"100.50", ".", app::frame::kNegativeTotal},
+      {"100.00", ".", app::frame::kPositiveTotal},
   };
   for (const Row& row : rows) {
     Desk desk;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "app/lifecycle/program.h"
+#include "app/lifecycle/wire.h"
 #include "base/memory_rich_text.h"
 #include "support/scripted_platform.h"
 

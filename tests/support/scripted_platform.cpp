@@ -52,4 +52,16 @@ void ScriptedPlatform::close(base::Window& window) {
   open_ = nullptr;
 }
 
+std::optional<std::string> ScriptedPlatform::userSetting(std::string_view key) const {
+  const auto found = userSettings.find(key);
+  return found == userSettings.end() ? std::nullopt : std::optional(found->second);
+}
+
+void ScriptedPlatform::saveUserSettings(const std::vector<base::UserSetting>& settings) {
+  for (const base::UserSetting& setting : settings) {
+    userSettings[setting.key] = setting.value;
+    log.push_back("save " + setting.key);
+  }
+}
+
 }  // namespace support

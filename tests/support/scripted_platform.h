@@ -4,7 +4,10 @@
 
 #include <deque>
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "base/platform.h"
 
@@ -22,6 +25,15 @@ class ScriptedPlatform : public base::Platform {
   /// Expects the modal window `name` next; `whileOpen` acts as the person before it and must close it.
   void expectModal(std::string name, std::function<void(base::Window&)> whileOpen);
 
+  /// What was shown and hidden beside the main window, and every status or caption worth telling, in order.
+  std::vector<std::string> log;
+  /// Runs at each refresh: a test looks at what stands on the screen in the middle of long work.
+  std::function<void()> onRefresh;
+  std::map<std::string, std::string, std::less<>> userSettings;
+  base::DateTime moment{.year = 2026, .month = 11, .day = 21, .hour = 9, .minute = 5, .second = 0};
+  base::SystemInformation system;
+  int width = 1280;
+  std::string clipboard;
   int beeps = 0;
   base::Hourglass hourglass = base::Hourglass::off;
   base::NumberFormat format;
@@ -30,7 +42,20 @@ class ScriptedPlatform : public base::Platform {
   base::MessageAnswer messageBox(const base::Message& message) override;
   void showModal(base::Window& window) override;
   void close(base::Window& window) override;
+  void show(base::Window& window) override { log.push_back("show " + std::string(window.name)); }
+  void hide(base::Window& window) override { log.push_back("hide " + std::string(window.name)); }
+  void refresh() override {
+    if (onRefresh) onRefresh();
+  }
   void beep() override { ++beeps; }
+  [[nodiscard]] base::DateTime now() const override { return moment; }
+  [[nodiscard]] int screenWidth() const override { return width; }
+  [[nodiscard]] base::SystemInformation systemInformation() const override { return system; }
+  [[nodiscard]] std::string systemRoot() const override { return "/usr"; }
+  [[nodiscard]] std::string clipboardText() const override { return clipboard; }
+  void setClipboardText(std::string_view text) override { clipboard = text; }
+  [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
+  void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   void setHourglass(base::Hourglass value) override { hourglass = value; }
   [[nodiscard]] base::NumberFormat numberFormat() const override { return format; }
   [[nodiscard]] std::string composed(std::string_view text) const override { return std::string(text); }

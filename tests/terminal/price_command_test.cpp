@@ -44,7 +44,7 @@ TEST_F(PriceCommand, PricesWithTheStoredSettings) {
   EXPECT_EQ(outcome.exitCode, 0) << outcome.error;
   EXPECT_EQ(outcome.out,
             "Textlänge in Zeichen                   10\n"
-            "Texthöhe                               50\n"
+            "Texthöhe in cm                         50\n"
             "Einzelpreis pro Zeichen netto    1,25 EUR\n"
             "Einzelpreis pro Zeichen brutto   1,45 EUR\n"
             "Preis pro Stück                 12,50 EUR\n"
@@ -68,12 +68,14 @@ TEST_F(PriceCommand, EveryOptionReachesThePrice) {
       {{"--hoehe-nr=1"}, R"("lbltexthöhe": {"text": "100", "tip": "Texthöhe in cm: 100"})"},
       {{"--zusatz", "2,5"}, R"("lblStückp": {"text": "15,00 EUR")"},
       {{"--aufpreis", "10 %"}, R"("lblPNettoAuf": {"text": "13,75 EUR")"},
+      {{"--aufpreis", "7,5 %"}, R"("lblPNettoAuf": {"text": "13,44 EUR")"},
       {{"--aufpreis", "20 %", "--rabatt", "1.00 EUR"}, R"("lblPNettoAuf": {"text": "14,00 EUR")"},
       {{"--aufpreis-prozent", "12,5"}, R"("lblPNettoAuf": {"text": "14,06 EUR")"},
       {{"--rabatt-betrag", "20"}, R"("rot": true)"},
       {{"--mwst", "19"}, R"("lblMwstG1": {"text": "Mwst. 19 %", "tip": null})"},
       {{"--einheit", "Zoll"}, R"("lblTH": {"text": "Texthöhe in Zoll:", "tip": null})"},
       {{"--leerzeichen", "1"}, R"("lblTextlenBox": {"text": "11")"},
+      {{"--einheit", "\xFF\"\n"}, R"("text": "Texthöhe in ÿ\"\u000a:")"},
       {{"--stueck", "abc"}, R"("lblPreisNetto": {"text": "0,00 EUR")"},
   };
   for (const Row& row : rows) {
@@ -90,6 +92,11 @@ TEST_F(PriceCommand, ReadsTextsOfAnyEncodingAndLineEnd) {
                   "\xEF\xBB\xBFGr\xC3\xB6\xC3\x9F"
                   "e\n\na\xCC\x88\r");
   EXPECT_NE(run({"--json", "--datei", directory.path("text.txt")}).out.find(R"("lblTextlenBox": {"text": "6")"),
+            std::string::npos);
+  directory.write("text.txt", std::string("\xFF\xFE"
+                                          "a\0\xFC\0b\0",
+                                          8));
+  EXPECT_NE(run({"--json", "--datei", directory.path("text.txt")}).out.find(R"("lblTextlenBox": {"text": "3")"),
             std::string::npos);
   EXPECT_NE(run({"--json", "--datei", "-"},
                 "Gr\xF6\xDF"
@@ -115,8 +122,10 @@ TEST_F(PriceCommand, TellsWrongArgumentsFromFailures) {
       {{"--hoehe-nr", "x"}, 2, "verlangt eine ganze Zahl"},
       {{"--leerzeichen", "2"}, 2, "0 oder 1"},
       {{"--aufpreis-prozent", "1", "--aufpreis-betrag", "1"}, 2, "Nur eines von beiden"},
-      {{"--text", "a", "--rabatt-betrag", "-5"}, 2, "kein Betrag"},
+      {{"--text", "a", "--rabatt-betrag", "-5"}, 2, "--rabatt-betrag verlangt eine Zahl"},
       {{"--text", "a", "--zusatz", "viel"}, 2, "--zusatz"},
+      {{"--text", "a", "--zusatz", "5-3"}, 2, "--zusatz"},
+      {{"--daten=" + directory.path("fehlt")}, 2, "--daten steht zweimal da"},
       {{"--aufpreis-betrag", "5"}, 1, "Division durch Null"},
       {{"--datei", directory.path("fehlt.txt")}, 1, "Datei nicht gefunden"},
       {{"--datei", directory.path("a.rtf")}, 1, "RTF"},
@@ -135,15 +144,15 @@ TEST_F(PriceCommand, RefusesSettingsThatAreNoNumbersAndCreatesNothing) {
   EXPECT_EQ(noNumber.exitCode, 1);
   EXPECT_NE(noNumber.error.find("Mwst"), std::string::npos) << noNumber.error;
 
-  const support::TemporaryDirectory empty;
-  const std::string fresh = empty.path("neu");
-  std::istringstream in;
-  std::ostringstream out;
-  std::ostringstream error;
-  const std::vector<std::string> arguments = {"--daten", fresh, "--text", "abc"};
-  EXPECT_EQ(terminal::runPriceCommand(arguments, {.in = in, .out = out, .error = error}), 0) << error.str();
-  EXPECT_NE(out.str().find("16 %"), std::string::npos);
-  EXPECT_FALSE(std::filesystem::exists(fresh));
+  directory.write("Ostrowerk.ini", "[Einstellungen]\nIndex1=300\n");
+  const Outcome held = run({"--text", "a"});
+  EXPECT_EQ(held.exitCode, 0);
+  EXPECT_NE(held.error.find("Index1"), std::string::npos) << held.error;
+
+  std::filesystem::remove(directory.path("Ostrowerk.ini"));
+  std::filesystem::remove(directory.path("Tessik.ini"));
+  EXPECT_NE(run({"--text", "abc"}).out.find("16 %"), std::string::npos);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.path("")), {}), 1);
 }
 
 }  // namespace

@@ -2,10 +2,10 @@
 #include "app/commands/main_commands.h"
 
 #include "calc/adjustments.h"
-#include "calc/calc.h"
 #include "calc/price_database.h"
 #include "calc/running_sum.h"
 #include "editor/character_format.h"
+#include "editor/editing.h"
 
 namespace app::commands {
 namespace {
@@ -26,10 +26,45 @@ void wireDocument(Wiring& wiring, const MainParts& parts) {
                 calculate(p);
               }));
   }
-  wiring.on(parts.window.cboFontSelect, Event::click,
-            reported(parts, "MAIN-cboFontSelect_Click", [](const MainParts& p) {
-              editor::chooseTypeface(p.window, p.document);
-              calculate(p);
+}
+
+void wireFormat(Wiring& wiring, const MainParts& parts) {
+  const auto apply = [](const MainParts& p) {
+    editor::applyFormat(p.window, p.document);
+    calculate(p);
+  };
+  wiring.on(parts.window.cboFontSelect, Event::click, reported(parts, "MAIN-cboFontSelect_Click", apply));
+  wiring.on(parts.window.cboFontSize, Event::click, reported(parts, "MAIN-cboFontSize_Click", apply));
+  wiring.on(parts.window.cmdFett, Event::click, reported(parts, "MAIN-cmdFett_Click", apply));
+  wiring.on(parts.window.cmdKursiv, Event::click, reported(parts, "MAIN-cmdKursiv_Click", apply));
+  wiring.on(parts.window.cmdUnterstrichen, Event::click, reported(parts, "MAIN-cmdUnterstrichen_Click", apply));
+}
+
+// Each editing command is followed by the calculation.
+void wireEditing(Wiring& wiring, const MainParts& parts) {
+  const auto edit = [&](const base::MenuEntry& entry, std::string_view tag, auto command) {
+    wiring.on(entry, Event::click, reported(parts, tag, [command](const MainParts& p) {
+                command(p);
+                editor::showFormat(p.window, p.document);
+                calculate(p);
+              }));
+  };
+  const auto& window = parts.window;
+  edit(window.mnuCut, "MAIN-mnuCut_Click", [](const MainParts& p) { editor::cutSelection(p.document, p.platform); });
+  edit(window.mnuCopy, "MAIN-mnuCopy_Click", [](const MainParts& p) { editor::copySelection(p.document, p.platform); });
+  edit(window.mnuPaste, "MAIN-mnuPaste_Click", [](const MainParts& p) { editor::pasteText(p.document, p.platform); });
+  edit(window.mnuDelete, "MAIN-mnuDelete_Click", [](const MainParts& p) { editor::deleteSelection(p.document); });
+  edit(window.mnuMarkAll, "MAIN-mnuMarkAll_Click", [](const MainParts& p) { editor::selectAll(p.document); });
+}
+
+void wireProgram(Wiring& wiring, const MainParts& parts) {
+  wiring.on(parts.window.mnuExit, Event::click,
+            reported(parts, "MAIN-mnuExit_Click", [](const MainParts& p) { p.platform.close(p.window); }));
+  wiring.on(parts.window.mnuInfo, Event::click, reported(parts, "MAIN-mnuInfo_Click", [](const MainParts& p) {
+              p.platform.messageBox({.text = "Tessik 1.4\r\nKalkulation für Folienbeschriftungen\r\n\r\nDaten: " +
+                                             p.paths.programDirectory,
+                                     .title = "Über Tessik",
+                                     .icon = base::MessageIcon::information});
             }));
 }
 
@@ -109,13 +144,15 @@ void wireAddByHand(Wiring& wiring, const MainParts& parts) {
 
 }  // namespace
 
-void calculate(const MainParts& parts) {
-  calc::Calc({.window = parts.window,
-              .document = parts.document,
-              .rates = parts.settings.rates,
-              .results = parts.results,
-              .format = parts.platform.numberFormat()});
+calc::CalcParts calcParts(const MainParts& parts) {
+  return {.window = parts.window,
+          .document = parts.document,
+          .rates = parts.settings.rates,
+          .results = parts.results,
+          .format = parts.platform.numberFormat()};
 }
+
+void calculate(const MainParts& parts) { calc::Calc(calcParts(parts)); }
 
 void selectHeight(const MainParts& parts, int index) {
   parts.window.cboBuchstabenhöhe.select(index);
@@ -140,6 +177,9 @@ void EditDatabase(const MainParts& parts) {
 
 void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireDocument(wiring, parts);
+  wireFormat(wiring, parts);
+  wireEditing(wiring, parts);
+  wireProgram(wiring, parts);
   wireHeightAndQuantity(wiring, parts);
   wireAdjustmentLists(wiring, parts);
   wireAmountBoxes(wiring, parts);

@@ -7,6 +7,7 @@
 #include "base/platform.h"
 #include "base/rich_text.h"
 #include "base/wiring.h"
+#include "calc/calc.h"
 #include "calc/picker.h"
 
 namespace app::commands {
@@ -24,6 +25,9 @@ struct MainParts {
 };
 
 void wireMainWindow(base::Wiring& wiring, const MainParts& parts);
+
+/// The parts that the calculation takes of all these.
+calc::CalcParts calcParts(const MainParts& parts);
 
 /// Runs the calculation; a failure is the caller's.
 void calculate(const MainParts& parts);

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "app/errors/error_log.h"
 #include "base/failure.h"
 #include "base/platform.h"
 
@@ -13,13 +14,18 @@ namespace app::errors {
 
 class Reporter {
  public:
+  /// A reporter that only shows.
   explicit Reporter(base::Platform& platform) : platform_(platform) {}
+  /// One that also keeps the error log of `program`, which must outlive it.
+  Reporter(base::Platform& platform, const ProgramInformation& program) : platform_(platform), program_(&program) {}
 
-  /// Clears the hourglass and shows the failure, unless its number says that there is nothing to tell (0, cancelled).
+  /// Clears the hourglass, shows the failure and records it, unless its number says that there is nothing to tell (0,
+  /// cancelled).
   void report(const base::Failure& failure);
 
  private:
   base::Platform& platform_;
+  const ProgramInformation* program_ = nullptr;
 };
 
 /// Runs `procedure` under `tag`; a failure ends it and is reported.

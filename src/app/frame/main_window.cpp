@@ -8,6 +8,10 @@ MainWindow::MainWindow() : Window("frmMain") {
   for (base::TextBox* box : {&txtProzent, &txtRabatt, &txtProzentDM, &txtRabattDM}) box->text = "0.00";
   lblcboChange1.text = "1";
   lblcboChange2.text = "2";
+  for (base::Label* label :
+       {&lblPreisNettoGesamt, &lblMwstG, &lblBruttoGesamt, &lblNettoDM, &lblMwstG1, &lblBruttoDM}) {
+    label->colour = kPositiveTotal;
+  }
   lblNettoDM.text = "Netto gesamt";
   lblBruttoDM.text = "Brutto gesamt";
   lblRCalc.text = "0.00 EUR";

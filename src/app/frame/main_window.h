@@ -12,6 +12,10 @@ namespace app::frame {
 #define TESSIK_MAIN_WINDOW_CONTROLS(CONTROL)                                                   \
   /* the lettering: height, quantity, typeface */                                              \
   CONTROL(base::ComboBox, cboFontSelect)                                                       \
+  CONTROL(base::ComboBox, cboFontSize)                                                         \
+  CONTROL(base::ToggleButton, cmdFett)                                                         \
+  CONTROL(base::ToggleButton, cmdKursiv)                                                       \
+  CONTROL(base::ToggleButton, cmdUnterstrichen)                                                \
   CONTROL(base::Label, lblTH)                                                                  \
   CONTROL(base::ComboBox, cboBuchstabenhöhe)                                                   \
   CONTROL(base::HiddenList, List1)               /* the prices of cboBuchstabenhöhe, by position */ \
@@ -52,9 +56,25 @@ namespace app::frame {
   CONTROL(base::Label, lblRCalc)                                                               \
   CONTROL(base::TextBox, txtAddPerHand)                                                        \
   CONTROL(base::Button, cmdAddPerHand)                                                         \
+  /* the menus */                                                                              \
+  CONTROL(base::MenuEntry, mnuLastFile)                                                        \
+  CONTROL(base::MenuEntry, mnuExit)                                                            \
+  CONTROL(base::MenuEntry, mnuCut)                                                             \
+  CONTROL(base::MenuEntry, mnuCopy)                                                            \
+  CONTROL(base::MenuEntry, mnuPaste)                                                           \
+  CONTROL(base::MenuEntry, mnuDelete)                                                          \
+  CONTROL(base::MenuEntry, mnuMarkAll)                                                         \
+  CONTROL(base::MenuEntry, mnuInfo)                                                            \
   /* the status line */                                                                        \
-  CONTROL(base::Label, lblZeile)
+  CONTROL(base::Label, lblZeile)                 /* format at the caret, line and column */    \
+  CONTROL(base::Label, lblZusatz)                /* the piece addition, while there is one */  \
+  CONTROL(base::Label, lblHinweis)               /* what the program has to tell by the way */ \
+  CONTROL(base::Timer, tmrLoad)
 // clang-format on
+
+/// The colours of the totals, which stand on black.
+inline constexpr base::Rgb kNegativeTotal = 0xFF0000;
+inline constexpr base::Rgb kPositiveTotal = 0x00C000;
 
 struct MainWindow : base::Window {
   MainWindow();

@@ -15,9 +15,4 @@ commands::MainParts mainParts(Program& program, base::Platform& platform, base::
           .reporter = reporter};
 }
 
-void wire(Program& program, const commands::MainParts& parts) {
-  commands::wireMainWindow(program.wiring, parts);
-  calc::wirePicker(program.wiring, program.picker, parts.platform);
-}
-
 }  // namespace app::lifecycle

@@ -4,7 +4,11 @@
 #include "app/commands/main_commands.h"
 #include "app/errors/reporting.h"
 #include "app/frame/main_window.h"
+#include "app/lifecycle/loading_window.h"
+#include "app/lifecycle/version.h"
 #include "app/settings/settings.h"
+#include "app/settings/settings_files.h"
+#include "base/build_values.h"
 #include "base/wiring.h"
 #include "calc/picker.h"
 
@@ -12,18 +16,19 @@ namespace app::lifecycle {
 
 struct Program {
   settings::Paths paths;
+  bool createsDirectory = false;  // the program directory is the user's own and may be missing
   settings::Settings settings;
   frame::MainWindow main;
   frame::CalcResults results;
   calc::PickerWindow picker;
+  LoadingWindow loading;
+  errors::ProgramInformation information{.version = kVersion, .build = std::string(base::kBuildText), .directory = {}};
+  settings::ReadReport readReport;  // of the settings files; what was not read is not overwritten without a copy
   base::Wiring wiring;
 };
 
 /// The program's parts together with the world it runs in, as the main window's procedures want them.
 commands::MainParts mainParts(Program& program, base::Platform& platform, base::RichText& document,
                               errors::Reporter& reporter);
-
-/// Ties every event of every window to its procedure.
-void wire(Program& program, const commands::MainParts& parts);
 
 }  // namespace app::lifecycle

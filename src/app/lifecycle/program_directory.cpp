@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "app/settings/settings.h"
-#include "base/profile_file.h"
+#include "base/files.h"
 
 namespace app::lifecycle {
 namespace {
@@ -30,11 +30,11 @@ DirectoryCandidates directoryCandidates(std::optional<std::string> given) {
           .userDataDirectory = std::move(dataHome)};
 }
 
-std::string programDirectory(const DirectoryCandidates& candidates) {
-  if (candidates.given) return *candidates.given;
+ProgramDirectory programDirectory(const DirectoryCandidates& candidates) {
+  if (candidates.given) return {.path = *candidates.given};
   const settings::Paths portable{candidates.programFileDirectory};
-  if (base::fileExists(portable.generalSettings())) return candidates.programFileDirectory;
-  return base::joinPath(candidates.userDataDirectory, "tessik");
+  if (base::fileExists(portable.generalSettings())) return {.path = candidates.programFileDirectory};
+  return {.path = base::joinPath(candidates.userDataDirectory, "tessik"), .isUsersOwn = true};
 }
 
 }  // namespace app::lifecycle

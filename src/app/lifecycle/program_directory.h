@@ -16,6 +16,13 @@ struct DirectoryCandidates {
 /// The candidates of this process: its own program file, XDG_DATA_HOME or ~/.local/share.
 DirectoryCandidates directoryCandidates(std::optional<std::string> given);
 
-std::string programDirectory(const DirectoryCandidates& candidates);
+struct ProgramDirectory {
+  std::string path;
+  bool isUsersOwn = false;  // the program may create it
+
+  bool operator==(const ProgramDirectory&) const = default;
+};
+
+ProgramDirectory programDirectory(const DirectoryCandidates& candidates);
 
 }  // namespace app::lifecycle

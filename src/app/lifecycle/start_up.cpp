@@ -1,29 +1,232 @@
 // Start-up.
 #include "app/lifecycle/start_up.h"
 
+#include <algorithm>
+#include <array>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/lifecycle/first_use.h"
+#include "app/lifecycle/version.h"
+#include "app/settings/settings_files.h"
+#include "app/settings/user_keys.h"
+#include "base/files.h"
+#include "base/text.h"
 #include "calc/adjustments.h"
+#include "calc/calc.h"
 #include "calc/price_database.h"
 #include "editor/character_format.h"
 
 namespace app::lifecycle {
+namespace {
 
-void loadTypefaces(const commands::MainParts& parts) {
-  parts.window.cboFontSelect.items.assign(parts.platform.fontFamilies());
+using base::MessageAnswer;
+using base::MessageButtons;
+using base::MessageIcon;
+using settings::File;
+
+constexpr std::array kFontSizes = {8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 26, 28, 36, 48, 72};
+
+bool screenIsWideEnough(base::Platform& platform) {
+  if (platform.screenWidth() >= kLeastScreenWidth) return true;
+  platform.messageBox({.text = "Tessik läuft nur ab einer Bildschirmauflösung von mind. 800x600.\r"
+                               "Bitte stellen Sie ggf. Ihre Grafikkarte auf einen höheren Modus ein!",
+                       .title = "Fehler",
+                       .icon = MessageIcon::stop});
+  return false;
+}
+
+void tellCopy(frame::MainWindow& window, const std::string& copy) {
+  window.lblHinweis.text = "Sicherung: " + copy;
+  window.lblHinweis.toolTip = "Die bisherigen Einstellungen liegen in " + copy;
+}
+
+// Defaults over files of another installation: what they hold is kept beside them.
+void writeFirstStart(Program& program, const commands::MainParts& parts) {
+  for (const File file : {File::lists, File::general}) {
+    if (const auto copy = settings::keepNumberedCopy(pathOf(program.paths, file))) tellCopy(parts.window, *copy);
+  }
+  settings::writeDefaults(program.paths, program.settings, File::lists);
+  settings::writeSettings(program.paths, program.settings, File::general);
+  settings::writeFirstStartKeys(parts.platform);
+  program.settings.user.version = settings::kDefaultsVersion;
+}
+
+void prepareUserKeys(Program& program, const commands::MainParts& parts) {
+  settings::UserKeys& keys = program.settings.user;
+  settings::readUserKeys(parts.platform, keys);
+  if (keys.version == settings::kDefaultsVersion) return;
+  keys = settings::UserKeys();
+  writeFirstStart(program, parts);
+}
+
+bool mayCreate(base::Platform& platform, std::string_view what, std::string_view name) {
+  const base::Message question{.text = std::string(what) +
+                                       " nicht vorhanden oder defekt!\r            Soll eine neue " +
+                                       std::string(name) + " erstell werden?",
+                               .title = "Fehler",
+                               .icon = MessageIcon::exclamation,
+                               .buttons = MessageButtons::yesNo};
+  return platform.messageBox(question) == MessageAnswer::yes;
+}
+
+// A file that stands there counts as present, whatever it is.
+StartUp createMissingFiles(Program& program, const commands::MainParts& parts) {
+  struct Missing {
+    File file;
+    std::string_view what;
+    std::string_view name;
+  };
+  for (const Missing& candidate : {Missing{File::general, "Einstellungs-Initialisierungsdatei", "Ostrowerk.ini"},
+                                   Missing{File::lists, "Rabatte Initialisierungsdatei", "Tessik.ini"}}) {
+    if (base::fileExists(pathOf(program.paths, candidate.file))) continue;
+    parts.platform.hide(program.loading);
+    if (!mayCreate(parts.platform, candidate.what, candidate.name)) return StartUp::ends;
+    settings::writeDefaults(program.paths, program.settings, candidate.file);
+    parts.platform.show(program.loading);
+  }
+  return StartUp::goesOn;
+}
+
+// One message for all that could not be read; the defaults stand in for it.
+void read(Program& program) {
+  program.readReport = settings::readSettings(program.paths, program.settings, settings::MissingNumber::isProblem);
+  program.settings.reminderSound = settings::wholeSoundPath(program.settings.reminderSound, program.settings.user);
+}
+
+void reportUnread(const settings::ReadReport& report) {
+  if (report.problems.empty()) return;
+  std::string text;
+  for (const settings::ReadProblem& problem : report.problems) text += problem.text + "\n";
+  throw base::Failure(report.problems.front().number, text + "Dafür gilt vorerst die Vorgabe.");
+}
+
+// Writes, asks and reads until the settings in memory are those of the files, or the person refuses.
+StartUp prepareSettings(Program& program, const commands::MainParts& parts) {
+  if (program.createsDirectory) createOnFirstUse(program.paths.programDirectory);
+  prepareUserKeys(program, parts);
+  if (createMissingFiles(program, parts) == StartUp::ends) return StartUp::ends;
+  read(program);
+  reportUnread(program.readReport);
+  return StartUp::goesOn;
+}
+
+void fillFixedLists(Program& program, const commands::MainParts& parts) {
+  frame::MainWindow& window = parts.window;
+  for (base::ComboBox* const box : {&window.cboAufpreis, &window.cboRabatt}) {
+    box->clear();
+    box->items.add(std::string(calc::kNoAdjustment));
+    box->select(0);
+  }
+  for (base::ToggleButton* const attribute : {&window.cmdFett, &window.cmdKursiv, &window.cmdUnterstrichen}) {
+    attribute->pressed = false;
+  }
   parts.document.setFormat(editor::startFormat());
+  window.cboFontSize.clear();
+  for (const int size : kFontSizes) window.cboFontSize.items.add(std::to_string(size));
+  window.caption = "Tessik v" + std::string(kVersion) + " ";
+  window.mnuLastFile.text = base::replaceAll(program.settings.user.lastFile, "&", "&&");
+  window.mnuLastFile.visible = !program.settings.user.lastFile.empty();
+  calc::showStatus(commands::calcParts(parts));
+}
+
+// The steps of the loading screen, with the bar it shows.
+class Loading {
+ public:
+  Loading(LoadingWindow& screen, base::Platform& platform) : screen_(screen), platform_(platform) {}
+
+  void stage(std::string status, int steps) {
+    screen_.lblStatus.text = std::move(status);
+    screen_.Progress1.minimum = 1;
+    screen_.Progress1.maximum = std::max(steps, 1);
+    screen_.Progress1.value = 1;
+    platform_.refresh();
+  }
+  void step() {
+    ++screen_.Progress1.value;
+    platform_.refresh();
+  }
+
+ private:
+  LoadingWindow& screen_;
+  base::Platform& platform_;
+};
+
+// The first entries stand in both boxes already.
+void addEntries(base::ComboBox& box, const settings::AdjustmentList& list, Loading& loading) {
+  for (int slot = 1; slot <= list.count; ++slot) {
+    box.items.add(list.amount(slot));
+    loading.step();
+  }
+}
+
+// A list of typefaces that does not hold what it says is a fault of the system, with advice of its own.
+std::vector<std::string> fontFamilies(const base::Platform& platform) {
+  try {
+    return platform.fontFamilies();
+  } catch (const base::Failure& failure) {
+    if (failure.number() != base::ErrorNumber::indexOutOfRange) throw;
+    throw base::Failure(
+        failure.number(),
+        "Fehler: Der Index des Schriftartenverzeichnisses befindet sich außerhalb des gültigen Bereichs. Bitte beenden "
+        "Sie alle Anwendungen und starten den Rechner neu. Sollte der Fehler dann noch immer auftreten, wenden Sie "
+        "sich "
+        "bitte an den Support! Dieser Fehler kann auftreten wenn der Schriftartenbaum von Windows durcheinandergeraten "
+        "ist, z.B. nach mehreren Font-Installationen bzw. Deinstallationen.");
+  }
+}
+
+void loadTypefaces(const commands::MainParts& parts, Loading& loading) {
+  const std::vector<std::string> families = fontFamilies(parts.platform);
+  const int count = static_cast<int>(families.size());
+  loading.stage("Lade " + std::to_string(count) + " TrueType Schriftarten ...", count);
+  parts.window.cboFontSelect.clear();
+  for (const std::string& family : families) {
+    parts.window.cboFontSelect.items.add(family);
+    loading.step();
+  }
   editor::showFormat(parts.window, parts.document);
 }
 
-void loadLists(const commands::MainParts& parts) {
-  calc::fillAdjustments(parts.window.cboAufpreis, parts.settings.adjustments.surcharges);
-  calc::fillAdjustments(parts.window.cboRabatt, parts.settings.adjustments.discounts);
-  parts.window.cboAufpreis.select(0);
-  parts.window.cboRabatt.select(0);
-  calc::loadPriceDatabase(parts.window, parts.paths.priceDatabase());
-  if (!parts.window.cboBuchstabenhöhe.items.empty()) {
-    commands::selectHeight(parts, 0);
-  } else {
-    commands::calculate(parts);
-  }
+void loadAll(Program& program, const commands::MainParts& parts) {
+  constexpr int kOpeningSteps = 500;
+  Loading loading(program.loading, parts.platform);
+  program.loading.lblVersion.text = std::string("Version ") + kVersion;
+  loading.stage("Initialisiere ...", kOpeningSteps);
+  for (int step = 1; step < kOpeningSteps; ++step) loading.step();
+  loadTypefaces(parts, loading);
+
+  const settings::Adjustments& lists = program.settings.adjustments;
+  loading.stage("Lade Datenbank ...", lists.surcharges.count + lists.discounts.count + 1);
+  addEntries(parts.window.cboAufpreis, lists.surcharges, loading);
+  addEntries(parts.window.cboRabatt, lists.discounts, loading);
+  calc::loadPriceDatabase(parts.window, program.paths.priceDatabase());
+  program.loading.lblStatus.text = "Fertig ...";
+  if (!parts.window.cboBuchstabenhöhe.items.empty()) commands::selectHeight(parts, 0);
+}
+
+}  // namespace
+
+StartUp load(Program& program, const commands::MainParts& parts) {
+  if (!screenIsWideEnough(parts.platform)) return StartUp::ends;
+  StartUp result = StartUp::goesOn;
+  program.settings.reminderSound = settings::defaultReminderSound(parts.platform.systemRoot());
+  errors::reporting(parts.reporter, kLoadTag, [&] { parts.platform.show(program.loading); });
+  errors::reporting(parts.reporter, kLoadTag, [&] { result = prepareSettings(program, parts); });
+  // The window is furnished also when a file could not be written or read.
+  errors::reporting(parts.reporter, kLoadTag, [&] { fillFixedLists(program, parts); });
+  program.main.tmrLoad = {.running = result == StartUp::goesOn, .intervalMilliseconds = 1};
+  return result;
+}
+
+void loadBehindScreen(Program& program, const commands::MainParts& parts) {
+  program.main.tmrLoad.running = false;
+  errors::reporting(parts.reporter, kTimerTag, [&] { loadAll(program, parts); });
+  errors::reporting(parts.reporter, kTimerTag, [&] { commands::calculate(parts); });
+  parts.platform.hide(program.loading);
+  if (program.settings.user.windowState == "2") program.main.state = base::WindowState::maximised;
+  parts.platform.show(program.main);
 }
 
 }  // namespace app::lifecycle

@@ -1,14 +1,26 @@
-// Start-up: reads the settings, fills the main window's lists and prices what stands there.
+// Start-up: the load handler, which sees to the settings, and the one-shot loading behind the loading screen.
 #pragma once
+
+#include <string_view>
 
 #include "app/lifecycle/program.h"
 
 namespace app::lifecycle {
 
-/// Fills the list of typefaces and gives the empty document its format.
-void loadTypefaces(const commands::MainParts& parts);
+inline constexpr std::string_view kLoadTag = "MAIN-frmLoad";
+inline constexpr std::string_view kTimerTag = "MAIN-tmrLoad";
 
-/// Fills both adjustment lists, loads the price database and selects the first cap height, which calculates.
-void loadLists(const commands::MainParts& parts);
+inline constexpr int kLeastScreenWidth = 700;  // pixels, although the message speaks of 800x600
+
+enum class StartUp { goesOn, ends };
+
+/// Checks the screen, makes sure that the settings exist, reads them and fills the fixed lists; then tmrLoad is
+/// running. The program ends when the screen is too small or a settings file is refused. A failure is reported and the
+/// program goes on with what it has.
+StartUp load(Program& program, const commands::MainParts& parts);
+
+/// What tmrLoad does once: typefaces, surcharges and discounts, price database, first cap height, main window. A
+/// failure is reported; the loading screen goes and the timer stops all the same.
+void loadBehindScreen(Program& program, const commands::MainParts& parts);
 
 }  // namespace app::lifecycle

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "base/failure.h"
-#include "base/profile_file.h"
 
 namespace app::settings {
 
@@ -29,10 +28,14 @@ std::string INIGetValue(const std::string& file, std::string_view section, std::
 void INISetArray(const std::string& file, std::string_view section, std::span<const std::string> array) {
   base::tagged("modGlobal-INISetArray", [&] {
     ProfileFile profile = ProfileFile::load(file);
-    profile.deleteSection(section);
-    profile.setSection(section, array);
+    replaceArray(profile, section, array);
     profile.save(file);
   });
+}
+
+void replaceArray(ProfileFile& file, std::string_view section, std::span<const std::string> array) {
+  file.deleteSection(section);
+  file.setSection(section, array);
 }
 
 void INIGetArray(const std::string& file, std::string_view section, std::span<std::string> array) {

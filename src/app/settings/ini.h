@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/profile_file.h"
+
 namespace app::settings {
 
 /// Writes one value; creates file and section when they are missing.
@@ -20,6 +22,9 @@ std::string INIGetValue(const std::string& file, std::string_view section, std::
 /// Deletes the section and writes it anew at the end of the file. The first empty element ends what is stored; without
 /// data nothing is left of the section.
 void INISetArray(const std::string& file, std::string_view section, std::span<const std::string> array);
+
+/// INISetArray() on a file in memory, for the caller that changes more than one section in one replacement.
+void replaceArray(base::ProfileFile& file, std::string_view section, std::span<const std::string> array);
 
 /// Fills the array from its first element with the lines of the section; lines that it has no room for are dropped, and
 /// elements without a line keep what they hold. Errors are passed over: the array then stays as it is.

@@ -1,0 +1,16 @@
+// Shut-down: what a session leaves behind is written back, always, whether or not anything changed.
+#pragma once
+
+#include "app/lifecycle/program.h"
+
+namespace app::lifecycle {
+
+/// The main window's unload handler. A store or file that cannot be written is one message each and does not keep the
+/// others from being written, nor the program from ending.
+void unload(Program& program, const commands::MainParts& parts);
+
+/// Writes both settings files, as at shut-down. A file that start-up could not wholly read is copied beside itself
+/// first.
+void saveSettings(Program& program, const commands::MainParts& parts);
+
+}  // namespace app::lifecycle

@@ -1,0 +1,62 @@
+// What all windows have in common on the screen.
+#include "ui/appearance.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QTranslator>
+#include <algorithm>
+
+#include "ui/program_style.h"
+#include "ui/utf8.h"
+
+// In a static library the resources must be asked for, outside any namespace.
+static void initResources() { Q_INIT_RESOURCE(resources); }
+
+namespace ui {
+namespace {
+
+constexpr int kDarkLightness = 128;
+
+// The buttons of message boxes and the context menus of the toolkit are German with this.
+void speakGerman(QApplication& application) {
+  auto* const translator = new QTranslator(&application);
+  if (translator->load(QLocale(QLocale::German), QStringLiteral("qtbase"), QStringLiteral("_"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(translator);
+  }
+}
+
+bool contains(const std::vector<std::string>& families, const std::string& family) {
+  return std::find(families.begin(), families.end(), family) != families.end();
+}
+
+}  // namespace
+
+void setUpAppearance(QApplication& application) {
+  initResources();
+  QApplication::setStyle(new ProgramStyle);
+  speakGerman(application);
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/tessik.svg")));
+  followPalette();
+}
+
+void followPalette() {
+  const bool dark = QApplication::palette().color(QPalette::Window).lightness() < kDarkLightness;
+  QIcon::setFallbackThemeName(dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
+}
+
+void substituteMissing(const std::string& family, const std::vector<std::string>& installed) {
+  if (contains(installed, family)) return;
+  for (const char* const candidate : {"Liberation Sans", "Arimo", "Nimbus Sans", "DejaVu Sans"}) {
+    if (!contains(installed, candidate)) continue;
+    QFont::insertSubstitution(toQString(family), QString::fromLatin1(candidate));
+    return;
+  }
+  QFont::insertSubstitution(toQString(family), QApplication::font().family());
+}
+
+}  // namespace ui
