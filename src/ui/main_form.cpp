@@ -3,7 +3,10 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QTimer>
+#include <initializer_list>
 #include <utility>
 
 #include "ui/appearance.h"
@@ -16,11 +19,22 @@ namespace {
 
 constexpr const char* kGeometryKey = "Hauptfenster";
 constexpr const char* kSplitterKey = "Teiler";
+constexpr double kShareOfSmallScreen = 0.95;  // the rest is for the window's frame
 
 std::unique_ptr<Ui::MainWindowForm> drawnOn(QMainWindow& window) {
   auto drawn = std::make_unique<Ui::MainWindowForm>();
   drawn->setupUi(&window);
   return drawn;
+}
+
+// Beside the commands, where they cost the lettering no room; what a narrow window cannot hold goes into its overflow.
+void moveFormatIntoToolBar(const Ui::MainWindowForm& drawn) {
+  drawn.fixLeiste->addSeparator();
+  for (QWidget* const part : std::initializer_list<QWidget*>{drawn.fixSchrift, drawn.cboFontSelect, drawn.fixGröße,
+                                                             drawn.cboFontSize, drawn.cmdFett, drawn.cmdKursiv,
+                                                             drawn.cmdUnterstrichen}) {
+    drawn.fixLeiste->addWidget(part);
+  }
 }
 
 // The lettering stands on white paper, whatever the palette.
@@ -41,11 +55,18 @@ MainForm::MainForm() : drawn_(drawnOn(*this)), document_(*drawn_->rtfText) {
   drawn_->fixStatus->addPermanentWidget(drawn_->lblZusatz);
   drawn_->fixTeiler->setStretchFactor(0, 1);
   drawn_->fixTeiler->setStretchFactor(1, 0);
+  moveFormatIntoToolBar(*drawn_);
+  fitToScreen();
   makePaperWhite(*drawn_->rtfText);
   drawn_->rtfText->setFocus();
 }
 
 MainForm::~MainForm() = default;
+
+void MainForm::fitToScreen() {
+  const QSize available = QGuiApplication::primaryScreen()->availableSize();
+  resize(size().boundedTo(available * kShareOfSmallScreen));
+}
 
 BoundWindow& MainForm::bindTo(app::frame::MainWindow& window, const base::Wiring& wiring, Gate& gate, Sync& sync) {
   RichTextEdit* const edit = drawn_->rtfText;

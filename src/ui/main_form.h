@@ -38,6 +38,7 @@ class MainForm : public QMainWindow {
   void changeEvent(QEvent* event) override;
 
  private:
+  void fitToScreen();
   void saveLayout() const;
 
   std::unique_ptr<Ui::MainWindowForm> drawn_;

@@ -145,7 +145,11 @@ base::DateTime QtPlatform::now() const {
           .second = time.second()};
 }
 
-int QtPlatform::screenWidth() const { return QGuiApplication::primaryScreen()->size().width(); }
+// In pixels of the screen, of which a scaled desktop counts fewer.
+int QtPlatform::screenWidth() const {
+  const QScreen& screen = *QGuiApplication::primaryScreen();
+  return qRound(screen.size().width() * screen.devicePixelRatio());
+}
 
 base::SystemInformation QtPlatform::systemInformation() const { return ui::systemInformation(); }
 
