@@ -155,7 +155,10 @@ bool ProfileSections::addEntry(ProfileSection& section, std::string_view key, st
 }
 
 void ProfileSections::changeValue(ProfileLine& entry, std::string_view value) {
-  entry.setBytes(added_.keep(upToValue(entry), value, lineEndOf(entry.bytes())));
+  std::string_view start = upToValue(entry);
+  // Blanks that a value brings along replace those that stand there, lest the line grow with every write.
+  if (!value.empty() && isBlank(value.front())) start = start.substr(0, start.rfind('=') + 1);
+  entry.setBytes(added_.keep(start, value, lineEndOf(entry.bytes())));
 }
 
 bool ProfileSections::setLines(ProfileSection& section, std::span<const std::string> lines) {

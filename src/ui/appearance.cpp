@@ -40,9 +40,10 @@ void setUpAppearance(QApplication& application) {
   initResources();
   QApplication::setStyle(new ProgramStyle);
   speakGerman(application);
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/tessik.svg")));
   followPalette();
 }
+
+void setProgramIcon() { QApplication::setWindowIcon(QIcon(QStringLiteral(":/tessik.svg"))); }
 
 void followPalette() {
   const bool dark = QApplication::palette().color(QPalette::Window).lightness() < kDarkLightness;

@@ -11,6 +11,9 @@ namespace ui {
 
 void setUpAppearance(QApplication& application);
 
+/// The icon of all windows. Drawing it loads every image plugin, so it comes after the first window is there.
+void setProgramIcon();
+
 /// Takes the icons that fit a light or dark palette.
 void followPalette();
 

@@ -71,7 +71,7 @@ class Desktop {
     app::lifecycle::wire(program_, parts_);
     offerWindows();
     form_.restoreLayout();
-    if (options.exitAfterStartUp) form_.whenPainted([this] { form_.close(); });
+    if (options.exitAfterStartUp) form_.whenPainted([] { QCoreApplication::quit(); });
     sync_.open(bound_);
   }
 

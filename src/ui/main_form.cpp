@@ -102,7 +102,10 @@ void MainForm::closeEvent(QCloseEvent* event) {
 
 void MainForm::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
-  if (painted_) QTimer::singleShot(0, this, std::exchange(painted_, nullptr));
+  if (isPainted_) return;
+  isPainted_ = true;
+  if (painted_) QTimer::singleShot(0, this, painted_);
+  QTimer::singleShot(0, this, setProgramIcon);
 }
 
 void MainForm::changeEvent(QEvent* event) {

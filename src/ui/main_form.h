@@ -45,6 +45,7 @@ class MainForm : public QMainWindow {
   QtRichText document_;
   std::function<bool()> mayClose_;
   std::function<void()> painted_;
+  bool isPainted_ = false;
 };
 
 }  // namespace ui

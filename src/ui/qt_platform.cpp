@@ -109,13 +109,13 @@ void QtPlatform::close(base::Window& window) {
   }
 }
 
-// Not modal, and it takes no focus from the main window.
+// Not modal. Painting waits for the event loop or a refresh, so that a loading screen with nothing to wait for costs
+// little.
 void QtPlatform::show(base::Window& window) {
   const ShownWindow& form = shown(window);
   sync_.open(*form.bindings);
   form.widget->show();
-  lastRefresh_ = {};
-  refresh();
+  lastRefresh_ = std::chrono::steady_clock::now();
 }
 
 void QtPlatform::hide(base::Window& window) {

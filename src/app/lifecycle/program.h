@@ -23,7 +23,8 @@ struct Program {
   calc::PickerWindow picker;
   LoadingWindow loading;
   errors::ProgramInformation information{.version = kVersion, .build = std::string(base::kBuildText), .directory = {}};
-  settings::ReadReport readReport;  // of the settings files; what was not read is not overwritten without a copy
+  // Of the settings files, nothing of which is read at first; what was not read is not overwritten without a copy.
+  settings::ReadReport readReport{.problems = {}, .generalIsWhole = false, .listsAreWhole = false};
   base::Wiring wiring;
 };
 

@@ -38,8 +38,12 @@ bool screenIsWideEnough(base::Platform& platform) {
 }
 
 void tellCopy(frame::MainWindow& window, const std::string& copy) {
-  window.lblHinweis.text = "Sicherung: " + copy;
-  window.lblHinweis.toolTip = "Die bisherigen Einstellungen liegen in " + copy;
+  const auto append = [](std::string& text, const char* opening, const std::string& what) {
+    text += text.empty() ? opening : ", ";
+    text += what;
+  };
+  append(window.lblHinweis.text, "Sicherung: ", copy.substr(copy.find_last_of("/\\") + 1));
+  append(window.lblHinweis.toolTip, "Die bisherigen Einstellungen liegen in ", copy);
 }
 
 // Defaults over files of another installation: what they hold is kept beside them.
@@ -50,15 +54,13 @@ void writeFirstStart(Program& program, const commands::MainParts& parts) {
   settings::writeDefaults(program.paths, program.settings, File::lists);
   settings::writeSettings(program.paths, program.settings, File::general);
   settings::writeFirstStartKeys(parts.platform);
-  program.settings.user.version = settings::kDefaultsVersion;
-}
-
-void prepareUserKeys(Program& program, const commands::MainParts& parts) {
+  // Keys that have no default of a first start, such as the company address, stay.
   settings::UserKeys& keys = program.settings.user;
-  settings::readUserKeys(parts.platform, keys);
-  if (keys.version == settings::kDefaultsVersion) return;
-  keys = settings::UserKeys();
-  writeFirstStart(program, parts);
+  const settings::UserKeys defaults;
+  keys.version = settings::kDefaultsVersion;
+  keys.windowState = defaults.windowState;
+  keys.lastFile = defaults.lastFile;
+  keys.beeper = defaults.beeper;
 }
 
 bool mayCreate(base::Platform& platform, std::string_view what, std::string_view name) {
@@ -98,14 +100,16 @@ void read(Program& program) {
 void reportUnread(const settings::ReadReport& report) {
   if (report.problems.empty()) return;
   std::string text;
-  for (const settings::ReadProblem& problem : report.problems) text += problem.text + "\n";
-  throw base::Failure(report.problems.front().number, text + "Dafür gilt vorerst die Vorgabe.");
+  for (const settings::ReadProblem& problem : report.problems) text += (text.empty() ? "" : "\n") + problem.text;
+  throw base::Failure(report.problems.front().number, text);
 }
 
 // Writes, asks and reads until the settings in memory are those of the files, or the person refuses.
 StartUp prepareSettings(Program& program, const commands::MainParts& parts) {
+  // Before anything can fail: keys that were not read would be lost at shut-down.
+  settings::readUserKeys(parts.platform, program.settings.user);
   if (program.createsDirectory) createOnFirstUse(program.paths.programDirectory);
-  prepareUserKeys(program, parts);
+  if (program.settings.user.version != settings::kDefaultsVersion) writeFirstStart(program, parts);
   if (createMissingFiles(program, parts) == StartUp::ends) return StartUp::ends;
   read(program);
   reportUnread(program.readReport);
@@ -143,8 +147,13 @@ class Loading {
     screen_.Progress1.value = 1;
     platform_.refresh();
   }
+  // A stage of as many steps as the bar has figures is full one step early.
   void step() {
-    ++screen_.Progress1.value;
+    screen_.Progress1.value = std::min(screen_.Progress1.value + 1, screen_.Progress1.maximum);
+    platform_.refresh();
+  }
+  void finished() {
+    screen_.lblStatus.text = "Fertig ...";
     platform_.refresh();
   }
 
@@ -202,7 +211,7 @@ void loadAll(Program& program, const commands::MainParts& parts) {
   addEntries(parts.window.cboAufpreis, lists.surcharges, loading);
   addEntries(parts.window.cboRabatt, lists.discounts, loading);
   calc::loadPriceDatabase(parts.window, program.paths.priceDatabase());
-  program.loading.lblStatus.text = "Fertig ...";
+  loading.finished();
   if (!parts.window.cboBuchstabenhöhe.items.empty()) commands::selectHeight(parts, 0);
 }
 

@@ -71,7 +71,8 @@ class Reader {
     if (const auto value = base::wholeNumber(stored)) {
       place = *value;
     } else {
-      problem(ErrorNumber::typeMismatch, about(key, stored) + " ist keine ganze Zahl.");
+      problem(ErrorNumber::typeMismatch,
+              about(key, stored) + " ist keine ganze Zahl; es gilt " + std::to_string(place) + ".");
     }
   }
 
@@ -81,7 +82,8 @@ class Reader {
     const int held = std::clamp(place, least, most);
     if (held == place) return;
     problem(ErrorNumber::indexOutOfRange, about(key, std::to_string(place)) + " liegt nicht zwischen " +
-                                              std::to_string(least) + " und " + std::to_string(most) + ".");
+                                              std::to_string(least) + " und " + std::to_string(most) + "; es gilt " +
+                                              std::to_string(held) + ".");
     place = held;
   }
 

@@ -1,0 +1,108 @@
+// Where the data files lie, and what the user's own directory holds on first use.
+#include "app/lifecycle/program_directory.h"
+
+#include <gtest/gtest.h>
+#include <stdlib.h>  // setenv
+
+#include <filesystem>
+#include <string>
+
+#include "app/frame/main_window.h"
+#include "app/lifecycle/first_use.h"
+#include "base/failure.h"
+#include "base/number.h"
+#include "calc/price_database.h"
+#include "support/temporary_directory.h"
+
+namespace {
+
+using namespace app::lifecycle;
+
+TEST(ProgramDirectory, IsGivenThenPortableThenTheUsersOwn) {
+  const support::TemporaryDirectory portable;
+  DirectoryCandidates candidates{
+      .given = {}, .programFileDirectory = portable.path(""), .userDataDirectory = "/home/anna/.local/share"};
+  const ProgramDirectory own{.path = "/home/anna/.local/share/tessik", .isUsersOwn = true};
+  EXPECT_EQ(programDirectory(candidates), own);
+  std::filesystem::create_directory(portable.path("Ostrowerk.ini"));
+  EXPECT_EQ(programDirectory(candidates), own) << "a directory is no settings file";
+  std::filesystem::remove(portable.path("Ostrowerk.ini"));
+  portable.write("Ostrowerk.ini", "");
+  EXPECT_EQ(programDirectory(candidates), (ProgramDirectory{.path = portable.path("")}));
+  candidates.given = "Daten";
+  EXPECT_EQ(programDirectory(candidates), (ProgramDirectory{.path = "Daten"}));
+}
+
+// An environment variable that has its value again when the test is over.
+class Variable {
+ public:
+  explicit Variable(const char* name) : name_(name) {
+    if (const char* const value = ::getenv(name)) before_ = value;
+  }
+  Variable(const Variable&) = delete;
+  Variable& operator=(const Variable&) = delete;
+  ~Variable() { before_ ? set(*before_) : clear(); }
+  void set(const std::string& value) const { ::setenv(name_, value.c_str(), 1); }
+  void clear() const { ::unsetenv(name_); }
+
+ private:
+  const char* name_;
+  std::optional<std::string> before_;
+};
+
+TEST(ProgramDirectory, TheUsersDataLieWhereTheDesktopSays) {
+  const Variable home("HOME");
+  const Variable data("XDG_DATA_HOME");
+  home.set("/home/anna");
+  data.clear();
+  EXPECT_EQ(directoryCandidates({}).userDataDirectory, "/home/anna/.local/share");
+  for (const char* const notAbsolute : {"", "daten", "./daten"}) {
+    data.set(notAbsolute);
+    EXPECT_EQ(directoryCandidates({}).userDataDirectory, "/home/anna/.local/share") << notAbsolute;
+  }
+  data.set("/srv/daten");
+  EXPECT_EQ(directoryCandidates({}).userDataDirectory, "/srv/daten");
+  EXPECT_TRUE(std::filesystem::is_directory(directoryCandidates({}).programFileDirectory));
+}
+
+TEST(FirstUse, TheSamplePriceListIsWholeAndPricesEveryHeight) {
+  const support::TemporaryDirectory parent;
+  const std::string directory = parent.path("share/tessik");
+  // What a first use left behind that broke off.
+  std::filesystem::create_directories(directory + ".neu");
+  parent.write("share/tessik.neu/Tessik.pdb", "[Versalien]\r\n0=9\r\n");
+  createOnFirstUse(directory);
+  EXPECT_FALSE(std::filesystem::exists(directory + ".neu"));
+
+  app::frame::MainWindow window;
+  calc::loadPriceDatabase(window, directory + "/Tessik.pdb");
+  const int heights = window.cboBuchstabenhöhe.items.size();
+  EXPECT_GE(heights, 18);
+  EXPECT_LE(heights, 25);
+  for (int i = 0; i < heights; ++i) {
+    EXPECT_GT(calc::priceAt(window, i), 0) << i;
+    if (i == 0) continue;
+    EXPECT_GT(calc::priceAt(window, i), calc::priceAt(window, i - 1)) << i;
+    EXPECT_GT(base::leadingNumber(window.cboBuchstabenhöhe.items[i]),
+              base::leadingNumber(window.cboBuchstabenhöhe.items[i - 1]));
+  }
+
+  std::filesystem::remove(directory + "/Tessik.pdb");
+  createOnFirstUse(directory);
+  EXPECT_TRUE(std::filesystem::is_empty(directory)) << "there is one first use";
+}
+
+TEST(FirstUse, AFailureNamesTheDirectoryAndLeavesNothing) {
+  const support::TemporaryDirectory parent;
+  parent.write("datei", "");
+  const std::string directory = parent.path("datei/tessik");
+  try {
+    createOnFirstUse(directory);
+    FAIL() << "created";
+  } catch (const base::Failure& failure) {
+    EXPECT_EQ(failure.number(), base::ErrorNumber::pathNotFound);
+    EXPECT_NE(failure.text().find(directory), std::string::npos) << failure.text();
+  }
+}
+
+}  // namespace

@@ -1,0 +1,137 @@
+// The editing commands and formats of the document, from the menu entry to what the calculation makes of it.
+#include "editor/editing.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/desk.h"
+
+namespace {
+
+using app::frame::MainWindow;
+using support::Desk;
+
+struct LetteringDesk : Desk {
+  LetteringDesk() {
+    offerHeights({{"50", "1"}});
+    write("Folie");
+    platform.clipboard = "alt";
+  }
+};
+
+TEST(Editing, EachCommandChangesTextAndClipboardAndIsFollowedByTheCalculation) {
+  struct Row {
+    base::MenuEntry MainWindow::*command;
+    base::TextSelection selection;
+    std::string text;
+    std::string clipboard;
+    std::string counted;
+  };
+  const Row rows[] = {
+      {&MainWindow::mnuCut, {1, 2}, "Fie", "ol", "3"},        {&MainWindow::mnuCut, {2, 0}, "Folie", "alt", "5"},
+      {&MainWindow::mnuCopy, {1, 2}, "Folie", "ol", "2"},     {&MainWindow::mnuCopy, {2, 0}, "Folie", "alt", "5"},
+      {&MainWindow::mnuPaste, {1, 2}, "Faltie", "alt", "6"},  {&MainWindow::mnuPaste, {5, 0}, "Foliealt", "alt", "8"},
+      {&MainWindow::mnuDelete, {1, 2}, "Fie", "alt", "3"},    {&MainWindow::mnuDelete, {2, 0}, "Folie", "alt", "5"},
+      {&MainWindow::mnuMarkAll, {2, 0}, "Folie", "alt", "5"},
+  };
+  for (const Row& row : rows) {
+    LetteringDesk desk;
+    desk.document.select(row.selection);
+    desk.click(desk.window.*row.command);
+    EXPECT_EQ(desk.document.plainText(), row.text);
+    EXPECT_EQ(desk.platform.clipboard, row.clipboard) << row.text;
+    EXPECT_EQ(desk.window.lblTextlenBox.text, row.counted) << row.text;
+    EXPECT_EQ(desk.window.lblPNettoAuf.text, row.counted + ",00 EUR") << row.text;
+  }
+}
+
+TEST(Editing, CommandsNeedALettering) {
+  const auto expectEnabled = [](const Desk& desk, bool enabled) {
+    const MainWindow& w = desk.window;
+    for (const base::MenuEntry* entry : {&w.mnuCut, &w.mnuCopy, &w.mnuDelete, &w.mnuMarkAll}) {
+      EXPECT_EQ(entry->enabled, enabled);
+    }
+    EXPECT_TRUE(w.mnuPaste.enabled);
+  };
+  LetteringDesk desk;
+  expectEnabled(desk, true);
+  desk.click(desk.window.mnuMarkAll);
+  EXPECT_EQ(desk.document.selection(), (base::TextSelection{0, 5}));
+  desk.click(desk.window.mnuCut);
+  expectEnabled(desk, false);
+  EXPECT_EQ(desk.window.lblPNettoAuf.text, "0,00 EUR");
+  desk.click(desk.window.mnuPaste);
+  expectEnabled(desk, true);
+  EXPECT_EQ(desk.document.plainText(), "Folie");
+  desk.click(desk.window.mnuMarkAll);
+  desk.platform.clipboard = "";
+  desk.click(desk.window.mnuPaste);
+  EXPECT_EQ(desk.document.plainText(), "Folie") << "nothing to paste takes nothing away";
+}
+
+struct FormatDesk : LetteringDesk {
+  FormatDesk() {
+    for (const char* family : {"Arial", "Courier New"}) window.cboFontSelect.items.add(family);
+    for (const char* size : {"8", "24"}) window.cboFontSize.items.add(size);
+    document.select({.start = 1, .length = 2});
+    program.wiring.fire(document, base::Event::selected);
+  }
+  void toggle(base::ToggleButton& button) {
+    button.pressed = !button.pressed;
+    click(button);
+  }
+  [[nodiscard]] base::CharFormat formatAt(std::int64_t start) {
+    document.select({.start = start, .length = 1});
+    program.wiring.fire(document, base::Event::selected);
+    return document.format();
+  }
+};
+
+TEST(CharacterFormat, TheSelectionTakesWhatIsChosenAndNothingElseDoes) {
+  FormatDesk desk;
+  const base::CharFormat before = desk.document.format();
+  desk.choose(desk.window.cboFontSelect, 1);
+  desk.choose(desk.window.cboFontSize, 1);
+  desk.toggle(desk.window.cmdFett);
+  desk.toggle(desk.window.cmdUnterstrichen);
+  const base::CharFormat chosen{.family = "Courier New", .points = 24, .bold = true, .underline = true};
+  EXPECT_EQ(desk.window.lblZeile.text, "Font: Courier New / Größe: 24 (F/S/U) / Ze, Pos: 1, 4");
+  for (std::int64_t start = 0; start < 5; ++start) {
+    const bool isChosen = start == 1 || start == 2;
+    EXPECT_EQ(desk.formatAt(start), isChosen ? chosen : before) << start;
+    EXPECT_EQ(desk.window.cboFontSelect.text, isChosen ? "Courier New" : "Arial") << start;
+    EXPECT_EQ(desk.window.cmdFett.pressed, isChosen) << start;
+  }
+}
+
+TEST(CharacterFormat, AFormatOutsideTheListsIsShownAllTheSame) {
+  FormatDesk desk;
+  desk.document.setFormat({.family = "Fehlende Schrift", .points = 10.5, .italic = true});
+  desk.program.wiring.fire(desk.document, base::Event::selected);
+  EXPECT_EQ(desk.window.cboFontSelect.text, "Fehlende Schrift");
+  EXPECT_EQ(desk.window.cboFontSelect.selected, -1);
+  EXPECT_EQ(desk.window.cboFontSize.text, "10.5");
+  EXPECT_TRUE(desk.window.cmdKursiv.pressed);
+  // A step in another control keeps them.
+  desk.toggle(desk.window.cmdFett);
+  EXPECT_EQ(desk.document.format(),
+            (base::CharFormat{.family = "Fehlende Schrift", .points = 10.5, .bold = true, .italic = true}));
+}
+
+TEST(CharacterFormat, ASizeThatIsNoneAndAnEmptyTypefaceChangeNothing) {
+  for (const char* const size : {"", "abc", "0", "-8"}) {
+    FormatDesk desk;
+    const base::CharFormat before = desk.document.format();
+    desk.window.cboFontSize.text = size;
+    desk.window.cboFontSelect.text = "";
+    desk.click(desk.window.cboFontSize);
+    EXPECT_EQ(desk.document.format(), before) << size;
+  }
+  FormatDesk desk;
+  desk.window.cboFontSize.text = "12,5";
+  desk.click(desk.window.cboFontSize);
+  EXPECT_EQ(desk.document.format().points, 12.5);
+}
+
+}  // namespace

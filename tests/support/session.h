@@ -1,0 +1,53 @@
+// A session of the whole program at a test's desk, from start-up to shut-down, with a program directory of its own and
+// an error log.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/lifecycle/program.h"
+#include "app/lifecycle/start_up.h"
+#include "base/memory_rich_text.h"
+#include "support/scripted_platform.h"
+#include "support/temporary_directory.h"
+
+namespace support {
+
+/// A scripted world in which the typefaces and the user's own store may fail.
+class FailingPlatform : public ScriptedPlatform {
+ public:
+  std::optional<base::Failure> fontFailure;
+  std::optional<base::Failure> storeFailure;
+
+  [[nodiscard]] std::vector<std::string> fontFamilies() const override;
+  void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
+};
+
+struct Session {
+  /// In `directory`, which outlives the session.
+  explicit Session(const TemporaryDirectory& directory);
+
+  /// Expects that a failure is shown with this text.
+  void expectFailure(std::string text);
+  /// The load handler.
+  app::lifecycle::StartUp load() { return app::lifecycle::load(program, parts); }
+  /// The load handler and, as it lets the program go on, what tmrLoad does.
+  void start();
+  /// The main window closes.
+  void end() { program.wiring.fire(program.main, base::Event::closing); }
+
+  FailingPlatform platform;
+  base::MemoryRichText document{};
+  app::lifecycle::Program program;
+  app::errors::Reporter reporter{platform, program.information};
+  app::commands::MainParts parts = app::lifecycle::mainParts(program, platform, document, reporter);
+  app::frame::MainWindow& window = program.main;
+};
+
+/// The names in a directory with the bytes of each file; a directory counts as an empty file.
+std::map<std::string, std::string> filesOf(const TemporaryDirectory& directory);
+
+}  // namespace support
