@@ -47,7 +47,12 @@ void setProgramIcon() { QApplication::setWindowIcon(QIcon(QStringLiteral(":/tess
 
 void followPalette() {
   const bool dark = QApplication::palette().color(QPalette::Window).lightness() < kDarkLightness;
-  QIcon::setFallbackThemeName(dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
+  const QString theme = dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze");
+  QIcon::setFallbackThemeName(theme);
+  // Without a theme of the desktop's the toolkit names one that is empty. Only a new name lets drawn icons go.
+  const QString present = QIcon::themeName();
+  const bool isOurs = present.startsWith(QLatin1String("breeze"));
+  if (present.isEmpty() || present == QLatin1String("hicolor") || isOurs) QIcon::setThemeName(theme);
 }
 
 void substituteMissing(const std::string& family, const std::vector<std::string>& installed) {

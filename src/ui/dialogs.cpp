@@ -2,6 +2,8 @@
 #include "ui/dialogs.h"
 
 #include <QDialog>
+#include <QGuiApplication>
+#include <QScreen>
 
 #include "ui_loading.h"
 #include "ui_picker.h"
@@ -18,7 +20,12 @@ QDialog* drawn(QWidget* parent, Qt::WindowFlags flags = {}) {
 
 }  // namespace
 
-QDialog* makeLoadingScreen(QWidget* parent) { return drawn<Ui::LoadingForm>(parent, Qt::SplashScreen); }
+// In the middle of the screen; the main window, which it belongs to, has no place yet.
+QDialog* makeLoadingScreen(QWidget* parent) {
+  QDialog* const screen = drawn<Ui::LoadingForm>(parent, Qt::SplashScreen);
+  screen->move(QGuiApplication::primaryScreen()->availableGeometry().center() - screen->rect().center());
+  return screen;
+}
 
 QDialog* makePicker(QWidget* parent) { return drawn<Ui::PickerForm>(parent); }
 

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QShortcut>
 #include <QTimer>
 #include <initializer_list>
 #include <utility>
@@ -30,9 +31,9 @@ std::unique_ptr<Ui::MainWindowForm> drawnOn(QMainWindow& window) {
 // Beside the commands, where they cost the lettering no room; what a narrow window cannot hold goes into its overflow.
 void moveFormatIntoToolBar(const Ui::MainWindowForm& drawn) {
   drawn.fixLeiste->addSeparator();
-  for (QWidget* const part : std::initializer_list<QWidget*>{drawn.fixSchrift, drawn.cboFontSelect, drawn.fixGröße,
-                                                             drawn.cboFontSize, drawn.cmdFett, drawn.cmdKursiv,
-                                                             drawn.cmdUnterstrichen}) {
+  for (QWidget* const part :
+       std::initializer_list<QWidget*>{drawn.fixSchrift, drawn.cboFontSelect, drawn.fixGröße, drawn.cboFontSize,
+                                       drawn.cmdFett, drawn.cmdKursiv, drawn.cmdUnterstrichen}) {
     drawn.fixLeiste->addWidget(part);
   }
 }
@@ -58,6 +59,9 @@ MainForm::MainForm() : drawn_(drawnOn(*this)), document_(*drawn_->rtfText) {
   moveFormatIntoToolBar(*drawn_);
   fitToScreen();
   makePaperWhite(*drawn_->rtfText);
+  // The height's label is written by the calculation and cannot carry an access key of its own.
+  connect(new QShortcut(Qt::ALT | Qt::Key_T, this), &QShortcut::activated, drawn_->cboBuchstabenhöhe,
+          [this] { drawn_->cboBuchstabenhöhe->setFocus(Qt::ShortcutFocusReason); });
   drawn_->rtfText->setFocus();
 }
 

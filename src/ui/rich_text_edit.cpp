@@ -58,6 +58,11 @@ void RichTextEdit::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
+  // An access key that no field has shall not become lettering.
+  if (event->modifiers() == Qt::AltModifier && !event->text().isEmpty()) {
+    event->ignore();
+    return;
+  }
   if (typesMark(*event) && !isReadOnly()) {
     insertAsOneStep(event->text());
     event->accept();

@@ -4,6 +4,10 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QShortcut>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -49,6 +53,28 @@ TEST(Forms, EveryInputOfTheMainWindowHasANameToSay) {
     EXPECT_FALSE(input->accessibleName().isEmpty() && !labelled.contains(input->objectName()))
         << input->objectName().toStdString();
   }
+}
+
+// An access key given twice moves the focus to and fro instead of doing what it says.
+TEST(Forms, EveryAccessKeyOfTheMainWindowIsGivenOnce) {
+  const ui::MainForm form;
+  std::map<QChar, QString> owners;
+  const auto note = [&owners](const QString& text, const QString& owner) {
+    const QKeySequence key = QKeySequence::mnemonic(text);
+    if (key.isEmpty()) return;
+    const QChar letter = key.toString().back();
+    EXPECT_FALSE(owners.contains(letter)) << owner.toStdString() << " and " << owners[letter].toStdString();
+    owners[letter] = owner;
+  };
+  for (const QLabel* label : form.findChildren<QLabel*>()) {
+    if (label->buddy() != nullptr) note(label->text(), label->objectName());
+  }
+  for (const QPushButton* button : form.findChildren<QPushButton*>()) note(button->text(), button->objectName());
+  for (const QAction* menu : form.menuBar()->actions()) note(menu->text(), menu->text());
+  for (const QShortcut* shortcut : form.findChildren<QShortcut*>()) {
+    note(QStringLiteral("&") + shortcut->key().toString().back(), QStringLiteral("a shortcut"));
+  }
+  EXPECT_GE(owners.size(), 10U);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The main window's wiring.
 #include "app/commands/main_commands.h"
 
+#include "app/settings/user_keys.h"
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
 #include "calc/running_sum.h"
@@ -61,10 +62,11 @@ void wireProgram(Wiring& wiring, const MainParts& parts) {
   wiring.on(parts.window.mnuExit, Event::click,
             reported(parts, "MAIN-mnuExit_Click", [](const MainParts& p) { p.platform.close(p.window); }));
   wiring.on(parts.window.mnuInfo, Event::click, reported(parts, "MAIN-mnuInfo_Click", [](const MainParts& p) {
-              p.platform.messageBox({.text = "Tessik 1.4\r\nKalkulation für Folienbeschriftungen\r\n\r\nDaten: " +
-                                             p.paths.programDirectory,
-                                     .title = "Über Tessik",
-                                     .icon = base::MessageIcon::information});
+              p.platform.messageBox(
+                  {.text = "Tessik " + std::string(settings::kDefaultsVersion) +
+                           "\r\nKalkulation für Folienbeschriftungen\r\n\r\nDaten: " + p.paths.programDirectory,
+                   .title = "Über Tessik",
+                   .icon = base::MessageIcon::information});
             }));
 }
 

@@ -33,9 +33,9 @@ void writeSamplePrices(const std::string& path) {
 
 }  // namespace
 
-void createOnFirstUse(const std::string& directory) {
+bool createOnFirstUse(const std::string& directory) {
   std::error_code error;
-  if (std::filesystem::exists(directory, error)) return;
+  if (std::filesystem::exists(directory, error)) return false;
   // Made beside its place and renamed: a directory without its files would never be filled again.
   const std::string draft = directory + ".neu";
   std::filesystem::create_directories(draft, error);
@@ -43,6 +43,7 @@ void createOnFirstUse(const std::string& directory) {
   writeSamplePrices(settings::Paths{draft}.priceDatabase());
   std::filesystem::rename(draft, directory, error);
   if (error) throw base::fileFailure(error.value(), directory);
+  return true;
 }
 
 }  // namespace app::lifecycle

@@ -6,8 +6,8 @@
 
 namespace app::lifecycle {
 
-/// Creates `directory` with the sample price list unless it is there already; it appears whole or not at all. A failure
-/// names the directory.
-void createOnFirstUse(const std::string& directory);
+/// Creates `directory` with the sample price list unless it is there already; it appears whole or not at all. True when
+/// it was created. A failure names the directory.
+bool createOnFirstUse(const std::string& directory);
 
 }  // namespace app::lifecycle

@@ -4,12 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "app/settings/settings_files.h"
 #include "app/settings/user_keys.h"
 
 namespace app::lifecycle {
 namespace {
-
-using settings::File;
 
 constexpr std::string_view kUnloadTag = "MAIN-frmUnload";
 
@@ -20,26 +19,14 @@ void saveUserKeys(Program& program, base::Platform& platform) {
   settings::writeUserKeys(platform, keys);
 }
 
-void saveFile(Program& program, File file) {
-  bool& isWhole = file == File::general ? program.readReport.generalIsWhole : program.readReport.listsAreWhole;
-  if (!isWhole) {
-    settings::keepNumberedCopy(pathOf(program.paths, file));
-    isWhole = true;
-  }
-  settings::writeSettings(program.paths, program.settings, file);
-}
-
 }  // namespace
-
-void saveSettings(Program& program, const commands::MainParts& parts) {
-  for (const File file : {File::lists, File::general}) {
-    errors::reporting(parts.reporter, kUnloadTag, [&] { saveFile(program, file); });
-  }
-}
 
 void unload(Program& program, const commands::MainParts& parts) {
   errors::reporting(parts.reporter, kUnloadTag, [&] { saveUserKeys(program, parts.platform); });
-  saveSettings(program, parts);
+  for (const settings::File file : {settings::File::lists, settings::File::general}) {
+    errors::reporting(parts.reporter, kUnloadTag,
+                      [&] { settings::saveSettings(program.paths, program.settings, file, program.readReport); });
+  }
 }
 
 }  // namespace app::lifecycle

@@ -9,8 +9,4 @@ namespace app::lifecycle {
 /// others from being written, nor the program from ending.
 void unload(Program& program, const commands::MainParts& parts);
 
-/// Writes both settings files, as at shut-down. A file that start-up could not wholly read is copied beside itself
-/// first.
-void saveSettings(Program& program, const commands::MainParts& parts);
-
 }  // namespace app::lifecycle

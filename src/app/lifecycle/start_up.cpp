@@ -7,11 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "app/lifecycle/first_use.h"
+#include "app/lifecycle/prepare_settings.h"
 #include "app/lifecycle/version.h"
 #include "app/settings/settings_files.h"
-#include "app/settings/user_keys.h"
-#include "base/files.h"
 #include "base/text.h"
 #include "calc/adjustments.h"
 #include "calc/calc.h"
@@ -21,11 +19,6 @@
 namespace app::lifecycle {
 namespace {
 
-using base::MessageAnswer;
-using base::MessageButtons;
-using base::MessageIcon;
-using settings::File;
-
 constexpr std::array kFontSizes = {8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 26, 28, 36, 48, 72};
 
 bool screenIsWideEnough(base::Platform& platform) {
@@ -33,87 +26,8 @@ bool screenIsWideEnough(base::Platform& platform) {
   platform.messageBox({.text = "Tessik läuft nur ab einer Bildschirmauflösung von mind. 800x600.\r"
                                "Bitte stellen Sie ggf. Ihre Grafikkarte auf einen höheren Modus ein!",
                        .title = "Fehler",
-                       .icon = MessageIcon::stop});
+                       .icon = base::MessageIcon::stop});
   return false;
-}
-
-void tellCopy(frame::MainWindow& window, const std::string& copy) {
-  const auto append = [](std::string& text, const char* opening, const std::string& what) {
-    text += text.empty() ? opening : ", ";
-    text += what;
-  };
-  append(window.lblHinweis.text, "Sicherung: ", copy.substr(copy.find_last_of("/\\") + 1));
-  append(window.lblHinweis.toolTip, "Die bisherigen Einstellungen liegen in ", copy);
-}
-
-// Defaults over files of another installation: what they hold is kept beside them.
-void writeFirstStart(Program& program, const commands::MainParts& parts) {
-  for (const File file : {File::lists, File::general}) {
-    if (const auto copy = settings::keepNumberedCopy(pathOf(program.paths, file))) tellCopy(parts.window, *copy);
-  }
-  settings::writeDefaults(program.paths, program.settings, File::lists);
-  settings::writeSettings(program.paths, program.settings, File::general);
-  settings::writeFirstStartKeys(parts.platform);
-  // Keys that have no default of a first start, such as the company address, stay.
-  settings::UserKeys& keys = program.settings.user;
-  const settings::UserKeys defaults;
-  keys.version = settings::kDefaultsVersion;
-  keys.windowState = defaults.windowState;
-  keys.lastFile = defaults.lastFile;
-  keys.beeper = defaults.beeper;
-}
-
-bool mayCreate(base::Platform& platform, std::string_view what, std::string_view name) {
-  const base::Message question{.text = std::string(what) +
-                                       " nicht vorhanden oder defekt!\r            Soll eine neue " +
-                                       std::string(name) + " erstell werden?",
-                               .title = "Fehler",
-                               .icon = MessageIcon::exclamation,
-                               .buttons = MessageButtons::yesNo};
-  return platform.messageBox(question) == MessageAnswer::yes;
-}
-
-// A file that stands there counts as present, whatever it is.
-StartUp createMissingFiles(Program& program, const commands::MainParts& parts) {
-  struct Missing {
-    File file;
-    std::string_view what;
-    std::string_view name;
-  };
-  for (const Missing& candidate : {Missing{File::general, "Einstellungs-Initialisierungsdatei", "Ostrowerk.ini"},
-                                   Missing{File::lists, "Rabatte Initialisierungsdatei", "Tessik.ini"}}) {
-    if (base::fileExists(pathOf(program.paths, candidate.file))) continue;
-    parts.platform.hide(program.loading);
-    if (!mayCreate(parts.platform, candidate.what, candidate.name)) return StartUp::ends;
-    settings::writeDefaults(program.paths, program.settings, candidate.file);
-    parts.platform.show(program.loading);
-  }
-  return StartUp::goesOn;
-}
-
-// One message for all that could not be read; the defaults stand in for it.
-void read(Program& program) {
-  program.readReport = settings::readSettings(program.paths, program.settings, settings::MissingNumber::isProblem);
-  program.settings.reminderSound = settings::wholeSoundPath(program.settings.reminderSound, program.settings.user);
-}
-
-void reportUnread(const settings::ReadReport& report) {
-  if (report.problems.empty()) return;
-  std::string text;
-  for (const settings::ReadProblem& problem : report.problems) text += (text.empty() ? "" : "\n") + problem.text;
-  throw base::Failure(report.problems.front().number, text);
-}
-
-// Writes, asks and reads until the settings in memory are those of the files, or the person refuses.
-StartUp prepareSettings(Program& program, const commands::MainParts& parts) {
-  // Before anything can fail: keys that were not read would be lost at shut-down.
-  settings::readUserKeys(parts.platform, program.settings.user);
-  if (program.createsDirectory) createOnFirstUse(program.paths.programDirectory);
-  if (program.settings.user.version != settings::kDefaultsVersion) writeFirstStart(program, parts);
-  if (createMissingFiles(program, parts) == StartUp::ends) return StartUp::ends;
-  read(program);
-  reportUnread(program.readReport);
-  return StartUp::goesOn;
 }
 
 void fillFixedLists(Program& program, const commands::MainParts& parts) {
@@ -131,6 +45,7 @@ void fillFixedLists(Program& program, const commands::MainParts& parts) {
   for (const int size : kFontSizes) window.cboFontSize.items.add(std::to_string(size));
   window.caption = "Tessik v" + std::string(kVersion) + " ";
   window.mnuLastFile.text = base::replaceAll(program.settings.user.lastFile, "&", "&&");
+  window.mnuLastFile.enabled = false;  // until documents can be opened
   window.mnuLastFile.visible = !program.settings.user.lastFile.empty();
   calc::showStatus(commands::calcParts(parts));
 }
@@ -180,8 +95,8 @@ std::vector<std::string> fontFamilies(const base::Platform& platform) {
         failure.number(),
         "Fehler: Der Index des Schriftartenverzeichnisses befindet sich außerhalb des gültigen Bereichs. Bitte beenden "
         "Sie alle Anwendungen und starten den Rechner neu. Sollte der Fehler dann noch immer auftreten, wenden Sie "
-        "sich "
-        "bitte an den Support! Dieser Fehler kann auftreten wenn der Schriftartenbaum von Windows durcheinandergeraten "
+        "sich bitte an den Support! Dieser Fehler kann auftreten wenn der Schriftartenbaum von Windows "
+        "durcheinandergeraten "
         "ist, z.B. nach mehreren Font-Installationen bzw. Deinstallationen.");
   }
 }
@@ -212,17 +127,15 @@ void loadAll(Program& program, const commands::MainParts& parts) {
   addEntries(parts.window.cboRabatt, lists.discounts, loading);
   calc::loadPriceDatabase(parts.window, program.paths.priceDatabase());
   loading.finished();
-  if (!parts.window.cboBuchstabenhöhe.items.empty()) commands::selectHeight(parts, 0);
 }
 
 }  // namespace
 
 StartUp load(Program& program, const commands::MainParts& parts) {
   if (!screenIsWideEnough(parts.platform)) return StartUp::ends;
-  StartUp result = StartUp::goesOn;
   program.settings.reminderSound = settings::defaultReminderSound(parts.platform.systemRoot());
   errors::reporting(parts.reporter, kLoadTag, [&] { parts.platform.show(program.loading); });
-  errors::reporting(parts.reporter, kLoadTag, [&] { result = prepareSettings(program, parts); });
+  const StartUp result = prepareSettings(program, parts);
   // The window is furnished also when a file could not be written or read.
   errors::reporting(parts.reporter, kLoadTag, [&] { fillFixedLists(program, parts); });
   program.main.tmrLoad = {.running = result == StartUp::goesOn, .intervalMilliseconds = 1};
@@ -231,7 +144,11 @@ StartUp load(Program& program, const commands::MainParts& parts) {
 
 void loadBehindScreen(Program& program, const commands::MainParts& parts) {
   program.main.tmrLoad.running = false;
-  errors::reporting(parts.reporter, kTimerTag, [&] { loadAll(program, parts); });
+  errors::reporting(parts.reporter, kTimerTag, [&] {
+    loadAll(program, parts);
+    if (!program.main.cboBuchstabenhöhe.items.empty()) program.main.cboBuchstabenhöhe.select(0);
+  });
+  // Also after a failure: what stands in the window shall be calculated.
   errors::reporting(parts.reporter, kTimerTag, [&] { commands::calculate(parts); });
   parts.platform.hide(program.loading);
   if (program.settings.user.windowState == "2") program.main.state = base::WindowState::maximised;

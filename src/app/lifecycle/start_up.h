@@ -3,16 +3,14 @@
 
 #include <string_view>
 
+#include "app/lifecycle/prepare_settings.h"
 #include "app/lifecycle/program.h"
 
 namespace app::lifecycle {
 
-inline constexpr std::string_view kLoadTag = "MAIN-frmLoad";
 inline constexpr std::string_view kTimerTag = "MAIN-tmrLoad";
 
 inline constexpr int kLeastScreenWidth = 700;  // pixels, although the message speaks of 800x600
-
-enum class StartUp { goesOn, ends };
 
 /// Checks the screen, makes sure that the settings exist, reads them and fills the fixed lists; then tmrLoad is
 /// running. The program ends when the screen is too small or a settings file is refused. A failure is reported and the

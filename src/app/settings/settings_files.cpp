@@ -181,6 +181,13 @@ void writeSettings(const Paths& paths, const Settings& settings, File which) {
   save(file, path, which);
 }
 
+void saveSettings(const Paths& paths, const Settings& settings, File file, ReadReport& report) {
+  bool& isWhole = file == File::general ? report.generalIsWhole : report.listsAreWhole;
+  if (!isWhole) keepNumberedCopy(pathOf(paths, file));
+  isWhole = true;
+  writeSettings(paths, settings, file);
+}
+
 std::optional<std::string> keepNumberedCopy(const std::string& path) {
   if (!base::fileExists(path)) return std::nullopt;
   std::string copy;
@@ -190,6 +197,8 @@ std::optional<std::string> keepNumberedCopy(const std::string& path) {
     if (!std::filesystem::exists(std::filesystem::symlink_status(copy, ignored))) break;
   }
   base::replaceFile(copy, base::readFile(path).value_or(""));
+  std::error_code noMatter;
+  std::filesystem::permissions(copy, std::filesystem::status(path, noMatter).permissions(), noMatter);
   return copy;
 }
 

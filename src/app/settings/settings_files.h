@@ -19,7 +19,7 @@ enum class File { general, lists };
 [[nodiscard]] std::string pathOf(const Paths& paths, File file);
 
 /// Writes a file anew or over what is there: marker section, then every key or list from memory.
-void writeDefaults(const Paths& paths, const Settings& settings, File file);
+void writeDefaults(const Paths& paths, const Settings& settings, File which);
 
 struct ReadProblem {
   base::ErrorNumber number;
@@ -44,7 +44,10 @@ ReadReport readSettings(const Paths& paths, Settings& settings, MissingNumber mi
 std::string defaultReminderSound(const std::string& systemRoot);
 
 /// Writes what a session may have changed: the four lists into one file, the general keys into the other.
-void writeSettings(const Paths& paths, const Settings& settings, File file);
+void writeSettings(const Paths& paths, const Settings& settings, File which);
+
+/// As writeSettings(), for a file of which `report` tells what memory holds: what was never read is copied first.
+void saveSettings(const Paths& paths, const Settings& settings, File file, ReadReport& report);
 
 /// Copies an existing file to the first free name "<file>.1", "<file>.2", … beside it and returns that name; nothing
 /// when there is no file. A failure to copy is the caller's: the file must not be overwritten then.

@@ -5,6 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/profile_file.h"
+#include "base/text.h"
+
 namespace app::settings {
 namespace {
 
@@ -60,7 +63,8 @@ void writeUserKeys(base::Platform& platform, const UserKeys& keys) {
 }
 
 std::string wholeSoundPath(const std::string& stored, const UserKeys& keys) {
-  const bool goesOn = !stored.empty() && keys.reminderSound.starts_with(stored);
+  const bool goesOn =
+      base::codePointCount(stored) == base::kSettingBuffer - 1 && keys.reminderSound.starts_with(stored);
   return goesOn ? keys.reminderSound : stored;
 }
 

@@ -2,8 +2,8 @@
 #include "app/lifecycle/program_directory.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>  // setenv
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
