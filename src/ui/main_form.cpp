@@ -32,10 +32,10 @@ std::unique_ptr<Ui::MainWindowForm> drawnOn(QMainWindow& window) {
 void moveFormatIntoToolBar(const Ui::MainWindowForm& drawn) {
   drawn.fixLeiste->addSeparator();
   for (QWidget* const part :
-       std::initializer_list<QWidget*>{drawn.fixSchrift, drawn.cboFontSelect, drawn.fixGröße, drawn.cboFontSize,
-                                       drawn.cmdFett, drawn.cmdKursiv, drawn.cmdUnterstrichen}) {
+       std::initializer_list<QWidget*>{drawn.fixSchrift, drawn.cboFontSelect, drawn.fixGröße, drawn.cboFontSize}) {
     drawn.fixLeiste->addWidget(part);
   }
+  drawn.fixLeiste->addActions(drawn.fixFormat->actions());
 }
 
 // The lettering stands on white paper, whatever the palette.

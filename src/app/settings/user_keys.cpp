@@ -52,12 +52,14 @@ void readUserKeys(const base::Platform& platform, UserKeys& keys) {
 
 void writeFirstStartKeys(base::Platform& platform) {
   std::vector<base::UserSetting> values;
+  values.reserve(kFirstStart.size());
   for (const auto& [key, value] : kFirstStart) values.push_back({key, value});
   platform.saveUserSettings(values);
 }
 
 void writeUserKeys(base::Platform& platform, const UserKeys& keys) {
   std::vector<base::UserSetting> values;
+  values.reserve(kSessionKeys.size());
   for (const Key& key : kSessionKeys) values.push_back({std::string(key.name), keys.*key.value});
   platform.saveUserSettings(values);
 }
