@@ -85,8 +85,9 @@ class Desktop {
  private:
   void offerWindows() {
     platform_.offerWindow(program_.main.name, [this] { return ShownWindow{&form_, &bound_}; });
-    platform_.offerWindow(program_.loading.name,
-                          [this] { return bound(program_.loading, *makeLoadingScreen(&form_)); });
+    platform_.offerWindow(
+        program_.loading.name, [this] { return bound(program_.loading, *makeLoadingScreen(&form_)); },
+        QtPlatform::Appears::whenItTakesLonger);
     platform_.offerWindow(program_.picker.name, [this] { return bound(program_.picker, *makePicker(&form_)); });
   }
 

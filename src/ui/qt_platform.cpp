@@ -8,6 +8,7 @@
 #include <QFontDatabase>
 #include <QMessageBox>
 #include <QScreen>
+#include <utility>
 
 #include "base/failure.h"
 #include "base/rich_text.h"
@@ -70,14 +71,18 @@ QDialog& dialogOf(const ShownWindow& window) {
 
 }  // namespace
 
-void QtPlatform::offerWindow(std::string_view name, std::function<ShownWindow()> build) {
-  windows_.insert_or_assign(std::string(name), Entry{.build = std::move(build), .window = {}});
+void QtPlatform::offerWindow(std::string_view name, std::function<ShownWindow()> build, Appears appears) {
+  windows_.insert_or_assign(std::string(name), Entry{.build = std::move(build), .appears = appears, .window = {}});
+}
+
+QtPlatform::Entry& QtPlatform::entryOf(const base::Window& window) {
+  const auto found = windows_.find(window.name);
+  if (found == windows_.end()) throw base::Failure(base::ErrorNumber::internal);
+  return found->second;
 }
 
 ShownWindow& QtPlatform::shown(const base::Window& window) {
-  const auto found = windows_.find(window.name);
-  if (found == windows_.end()) throw base::Failure(base::ErrorNumber::invalidCall);
-  Entry& entry = found->second;
+  Entry& entry = entryOf(window);
   if (entry.window.widget == nullptr) entry.window = entry.build();
   return entry.window;
 }
@@ -109,25 +114,35 @@ void QtPlatform::close(base::Window& window) {
   }
 }
 
-// Not modal. Painting waits for the event loop or a refresh, so that a loading screen with nothing to wait for costs
-// little.
+void QtPlatform::appear(Entry& entry) {
+  if (entry.window.widget == nullptr) entry.window = entry.build();
+  sync_.open(*entry.window.bindings);
+  entry.window.widget->show();
+}
+
 void QtPlatform::show(base::Window& window) {
-  const ShownWindow& form = shown(window);
-  sync_.open(*form.bindings);
-  form.widget->show();
+  Entry& entry = entryOf(window);
   lastRefresh_ = std::chrono::steady_clock::now();
+  if (entry.appears == Appears::whenItTakesLonger) {
+    waiting_ = &entry;
+  } else {
+    appear(entry);
+  }
 }
 
 void QtPlatform::hide(base::Window& window) {
-  const ShownWindow& form = shown(window);
-  form.widget->hide();
-  sync_.close(*form.bindings);
+  Entry& entry = entryOf(window);
+  if (waiting_ == &entry) waiting_ = nullptr;
+  if (entry.window.widget == nullptr) return;
+  entry.window.widget->hide();
+  sync_.close(*entry.window.bindings);
 }
 
 void QtPlatform::refresh() {
   constexpr std::chrono::milliseconds kFrame(16);
   const auto moment = std::chrono::steady_clock::now();
   if (moment - lastRefresh_ < kFrame) return;
+  if (waiting_ != nullptr) appear(*std::exchange(waiting_, nullptr));
   sync_.pass();
   QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
   lastRefresh_ = std::chrono::steady_clock::now();

@@ -30,8 +30,10 @@ class QtPlatform : public base::Platform {
  public:
   QtPlatform(Gate& gate, Sync& sync) : gate_(gate), sync_(sync) {}
 
+  /// When a window that is shown comes to the screen: a loading screen only when there is something to wait for.
+  enum class Appears { atOnce, whenItTakesLonger };
   /// How the window named `name` is built; it is built on first use and kept.
-  void offerWindow(std::string_view name, std::function<ShownWindow()> build);
+  void offerWindow(std::string_view name, std::function<ShownWindow()> build, Appears appears = Appears::atOnce);
 
   base::MessageAnswer messageBox(const base::Message& message) override;
   void showModal(base::Window& window) override;
@@ -56,14 +58,18 @@ class QtPlatform : public base::Platform {
  private:
   struct Entry {
     std::function<ShownWindow()> build;
+    Appears appears;
     ShownWindow window;
   };
+  Entry& entryOf(const base::Window& window);
+  void appear(Entry& entry);
   ShownWindow& shown(const base::Window& window);
 
   Gate& gate_;
   Sync& sync_;
   std::map<std::string, Entry, std::less<>> windows_;
   bool hasHourglass_ = false;
+  Entry* waiting_ = nullptr;  // shown, but not on the screen yet
   std::chrono::steady_clock::time_point lastRefresh_;
 };
 
