@@ -51,8 +51,8 @@ void writeFirstStart(Program& program, base::Platform& platform) {
   resetKeys(program.settings.user);
 }
 
-void prepareDirectory(Program& program) {
-  if (!program.createsDirectory || !createOnFirstUse(program.paths.programDirectory)) return;
+// Nobody is asked about the files of a directory that the program has just made itself.
+void writeNewDirectory(const Program& program) {
   settings::writeDefaults(program.paths, program.settings, File::general);
   settings::writeDefaults(program.paths, program.settings, File::lists);
 }
@@ -100,13 +100,16 @@ StartUp prepareSettings(Program& program, const commands::MainParts& parts) {
   const auto step = [&](auto&& procedure) { errors::reporting(parts.reporter, kLoadTag, procedure); };
   step([&] { settings::readUserKeys(parts.platform, program.settings.user); });
   bool hasDirectory = false;
+  bool isNew = false;
   step([&] {
-    prepareDirectory(program);
+    isNew = program.createsDirectory && createOnFirstUse(program.paths.programDirectory);
     hasDirectory = true;
   });
   if (!hasDirectory) return StartUp::goesOn;  // with the defaults in memory
   if (program.settings.user.version != settings::kDefaultsVersion) {
     step([&] { writeFirstStart(program, parts.platform); });
+  } else if (isNew) {
+    step([&] { writeNewDirectory(program); });
   }
   for (const File file : {File::general, File::lists}) {
     if (createIfMissing(program, parts, file) == StartUp::ends) return StartUp::ends;

@@ -109,6 +109,26 @@ TEST(StartUp, AFirstStartWritesFilesAndKeysWithoutAsking) {
   EXPECT_EQ(session.window.cboBuchstabenhöhe.selected, -1) << "without a price list there are no heights";
 }
 
+TEST(StartUp, ADirectoryOfItsOwnIsMadeWithoutQuestionsAndCopies) {
+  for (const char* const version : {"", "1.4"}) {
+    const TemporaryDirectory home;
+    const TemporaryDirectory unused;
+    Session session(unused);
+    session.program.paths.programDirectory = home.path("tessik");
+    session.program.createsDirectory = true;
+    session.platform.userSettings["Version"] = version;
+    session.start();
+    Texts names;
+    for (const auto& entry : std::filesystem::directory_iterator(home.path("tessik"))) {
+      names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (Texts{"Ostrowerk.ini", "Tessik.ini", "Tessik.pdb"})) << version;
+    EXPECT_EQ(session.window.lblHinweis.text, "") << version;
+    EXPECT_EQ(session.window.cboBuchstabenhöhe.items.size(), 20) << version;
+  }
+}
+
 TEST(StartUp, AFirstStartKeepsAndNamesTheFilesOfAnotherInstallation) {
   const Installation directory;
   Session session(directory);
