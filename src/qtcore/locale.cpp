@@ -16,7 +16,7 @@ constexpr QChar kFirstThatJoins(0x0300);
 
 QString numericLocaleName() {
   for (const char* const variable : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
-    const QString name = qEnvironmentVariable(variable);
+    QString name = qEnvironmentVariable(variable);
     if (!name.isEmpty()) return name;
   }
   return {};

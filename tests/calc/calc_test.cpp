@@ -87,16 +87,6 @@ TEST(Calc, PricesTheSelectionButNotALoneLineEnd) {
   EXPECT_EQ(desk.window.lblPreisNetto.text, "3,00 EUR");
 }
 
-TEST(Calc, AddsToThePieceBeforeMultiplying) {
-  Desk desk;
-  desk.offerHeights({{"50", "1.25"}});
-  desk.program.results.pieceAddition = Currency::fromDouble(2);
-  desk.type(desk.window.txtStück, "3");
-  desk.write("0123456789");
-  EXPECT_EQ(desk.window.lblPreisNetto.text, "43,50 EUR");
-  EXPECT_EQ(desk.window.lblStückp.text, "14,50 EUR");
-}
-
 // A price of 1 and 100 characters: the net price is 100.
 TEST(Calc, ListEntriesTakeTheirShareOfTheNetPrice) {
   struct Row {
@@ -140,12 +130,10 @@ TEST(Calc, ColoursTheTotalsByTheSignOnDisplay) {
     std::string separator;
     base::Rgb colour;
   };
-  const Row rows[] = {
-      {"100.50", ",", app::frame::kPositiveTotal},
-      {"101.00", ",", app::frame::kNegativeTotal},
-      {"100.50", ".", app::frame::kNegativeTotal},
-      {"100.00", ".", app::frame::kPositiveTotal},
-  };
+  const Row rows[] = {{"100.50", ",", app::frame::kPositiveTotal},
+                      {"101.00", ",", app::frame::kNegativeTotal},
+                      {"100.50", ".", app::frame::kNegativeTotal},
+                      {"100.00", ".", app::frame::kPositiveTotal}};
   for (const Row& row : rows) {
     Desk desk;
     desk.platform.format.decimalSeparator = row.separator;

@@ -11,6 +11,8 @@
 
 namespace {
 
+using namespace std::string_literals;
+
 struct Row {
   std::string name;
   std::string file;
@@ -24,7 +26,7 @@ const std::vector<Row>& priceFiles() {
       {"comma and two points", "[Versalien]\n0=10\n1=20\n[Preise]\n0=1,25\n1=1.250,00\n", {"10", "20"}, {1.25, 1.25}},
       {"no numbers", "[Versalien]\n0=10\n1=20\n2=30\n[Preise]\n0=abc\n2=-3\n", {"10", "20", "30"}, {0, 0, -3}},
       {"empty height ends", "[Versalien]\n0=10\n1=\n2=30\n[Preise]\n0=1\n1=2\n2=3\n", {"10"}, {1}},
-      {"NUL bytes", std::string("[Versalien]\n\0\0\n0=10\n[Preise]\n0=1.5\n", 36), {"10"}, {1.5}},
+      {"NUL bytes", "[Versalien]\n\0\0\n0=10\n[Preise]\n0=1.5\n"s, {"10"}, {1.5}},
       {"code page 1252", "[Versalien]\n0=gro\xDF\n[Preise]\n0=2\n", {"groß"}, {2}},
       {"long value",
        "[Versalien]\n0=" + std::string(1'000'000, 'x') + "\n[Preise]\n0=2\n",
@@ -71,7 +73,7 @@ TEST(PriceDatabase, AMissingFileLeavesTheListsEmptyAndADirectoryIsAFailure) {
   const support::TemporaryDirectory directory;
   app::frame::MainWindow window;
   window.cboBuchstabenhöhe.items.add("alt");
-  window.List1.items.push_back("alt");
+  window.List1.items.emplace_back("alt");
   calc::loadPriceDatabase(window, directory.path("Tessik.pdb"));
   EXPECT_TRUE(window.cboBuchstabenhöhe.items.empty());
   EXPECT_TRUE(window.List1.items.empty());

@@ -20,12 +20,12 @@ void Desk::write(std::string_view lettering) {
   program.wiring.fire(document, base::Event::changed);
 }
 
-void Desk::type(base::TextBox& box, std::string_view text) {
+void Desk::type(base::TextBox& box, std::string_view text) const {
   box.text = program.wiring.filtered(box, text).text;
   program.wiring.fire(box, base::Event::changed);
 }
 
-void Desk::choose(base::ComboBox& box, int index) {
+void Desk::choose(base::ComboBox& box, int index) const {
   box.select(index);
   program.wiring.fire(box, base::Event::click);
 }

@@ -19,8 +19,8 @@ struct Desk {
   /// Replaces the lettering as typing would.
   void write(std::string_view lettering);
   /// Types `text` into an emptied box, through its filter.
-  void type(base::TextBox& box, std::string_view text);
-  void choose(base::ComboBox& box, int index);
+  void type(base::TextBox& box, std::string_view text) const;
+  void choose(base::ComboBox& box, int index) const;
   void click(const base::Control& control) { program.wiring.fire(control, base::Event::click); }
 
   ScriptedPlatform platform;

@@ -58,6 +58,7 @@ std::optional<std::string> ScriptedPlatform::userSetting(std::string_view key) c
 }
 
 void ScriptedPlatform::saveUserSettings(const std::vector<base::UserSetting>& settings) {
+  if (storeFailure) throw base::Failure(*storeFailure);
   for (const base::UserSetting& setting : settings) {
     userSettings[setting.key] = setting.value;
     log.push_back("save " + setting.key);

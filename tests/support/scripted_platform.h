@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "base/failure.h"
 #include "base/platform.h"
 
 namespace support {
@@ -38,6 +39,9 @@ class ScriptedPlatform : public base::Platform {
   base::Hourglass hourglass = base::Hourglass::off;
   base::NumberFormat format;
   std::vector<std::string> families = {"Arial", "DejaVu Sans"};
+  /// What asking for the typefaces and storing user settings fail with.
+  std::optional<base::Failure> fontFailure;
+  std::optional<base::Failure> storeFailure;
 
   base::MessageAnswer messageBox(const base::Message& message) override;
   void showModal(base::Window& window) override;
@@ -59,7 +63,10 @@ class ScriptedPlatform : public base::Platform {
   void setHourglass(base::Hourglass value) override { hourglass = value; }
   [[nodiscard]] base::NumberFormat numberFormat() const override { return format; }
   [[nodiscard]] std::string composed(std::string_view text) const override { return std::string(text); }
-  [[nodiscard]] std::vector<std::string> fontFamilies() const override { return families; }
+  [[nodiscard]] std::vector<std::string> fontFamilies() const override {
+    if (fontFailure) throw base::Failure(*fontFailure);
+    return families;
+  }
 
  private:
   struct Question {

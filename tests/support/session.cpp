@@ -10,16 +10,6 @@
 
 namespace support {
 
-std::vector<std::string> FailingPlatform::fontFamilies() const {
-  if (fontFailure) throw base::Failure(*fontFailure);
-  return ScriptedPlatform::fontFamilies();
-}
-
-void FailingPlatform::saveUserSettings(const std::vector<base::UserSetting>& settings) {
-  if (storeFailure) throw base::Failure(*storeFailure);
-  ScriptedPlatform::saveUserSettings(settings);
-}
-
 Session::Session(const TemporaryDirectory& directory) {
   program.paths.programDirectory = directory.path("");
   program.information.directory = directory.path("");

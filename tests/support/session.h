@@ -3,9 +3,7 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "app/lifecycle/program.h"
@@ -15,16 +13,6 @@
 #include "support/temporary_directory.h"
 
 namespace support {
-
-/// A scripted world in which the typefaces and the user's own store may fail.
-class FailingPlatform : public ScriptedPlatform {
- public:
-  std::optional<base::Failure> fontFailure;
-  std::optional<base::Failure> storeFailure;
-
-  [[nodiscard]] std::vector<std::string> fontFamilies() const override;
-  void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
-};
 
 struct Session {
   /// In `directory`, which outlives the session.
@@ -39,7 +27,7 @@ struct Session {
   /// The main window closes.
   void end() { program.wiring.fire(program.main, base::Event::closing); }
 
-  FailingPlatform platform;
+  ScriptedPlatform platform;
   base::MemoryRichText document{};
   app::lifecycle::Program program;
   app::errors::Reporter reporter{platform, program.information};

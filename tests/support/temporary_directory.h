@@ -1,8 +1,7 @@
 // A directory of its own for a test, gone with it.
 #pragma once
 
-#include <stdlib.h>  // mkdtemp
-
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>

@@ -67,7 +67,6 @@ TEST_F(PriceCommand, EveryOptionReachesThePrice) {
       {{"--hoehe", "100"}, R"("lblPreisNetto": {"text": "25,00 EUR", "tip": "Nettopreis: 25,00 EUR"})"},
       {{"--hoehe-nr=1"}, R"("lbltexthöhe": {"text": "100", "tip": "Texthöhe in cm: 100"})"},
       {{"--zusatz", "2,5"}, R"("lblStückp": {"text": "15,00 EUR")"},
-      {{"--aufpreis", "10 %"}, R"("lblPNettoAuf": {"text": "13,75 EUR")"},
       {{"--aufpreis", "7,5 %"}, R"("lblPNettoAuf": {"text": "13,44 EUR")"},
       {{"--aufpreis", "20 %", "--rabatt", "1.00 EUR"}, R"("lblPNettoAuf": {"text": "14,00 EUR")"},
       {{"--aufpreis-prozent", "12,5"}, R"("lblPNettoAuf": {"text": "14,06 EUR")"},
@@ -88,21 +87,19 @@ TEST_F(PriceCommand, EveryOptionReachesThePrice) {
 }
 
 TEST_F(PriceCommand, ReadsTextsOfAnyEncodingAndLineEnd) {
-  directory.write("text.txt",
-                  "\xEF\xBB\xBFGr\xC3\xB6\xC3\x9F"
-                  "e\n\na\xCC\x88\r");
-  EXPECT_NE(run({"--json", "--datei", directory.path("text.txt")}).out.find(R"("lblTextlenBox": {"text": "6")"),
-            std::string::npos);
-  directory.write("text.txt", std::string("\xFF\xFE"
-                                          "a\0\xFC\0b\0",
-                                          8));
-  EXPECT_NE(run({"--json", "--datei", directory.path("text.txt")}).out.find(R"("lblTextlenBox": {"text": "3")"),
-            std::string::npos);
-  EXPECT_NE(run({"--json", "--datei", "-"},
-                "Gr\xF6\xDF"
-                "e\r\n")
-                .out.find(R"("lblTextlenBox": {"text": "5")"),
-            std::string::npos);
+  const std::pair<std::string, std::string> rows[] = {
+      {"\xEF\xBB\xBFGröße\n\na\xCC\x88\r", "6"},
+      {std::string("\xFF\xFE\x61\0\xFC\0\x62\0", 8), "3"},
+      {"Gr\xF6\xDF\x65\r\n", "5"},
+  };
+  for (const auto& [bytes, length] : rows) {
+    directory.write("text.txt", bytes);
+    for (const std::string& file : {directory.path("text.txt"), std::string("-")}) {
+      EXPECT_NE(run({"--json", "--datei", file}, bytes).out.find(R"("lblTextlenBox": {"text": ")" + length + '"'),
+                std::string::npos)
+          << length << file;
+    }
+  }
 }
 
 TEST_F(PriceCommand, TellsWrongArgumentsFromFailures) {
@@ -123,7 +120,6 @@ TEST_F(PriceCommand, TellsWrongArgumentsFromFailures) {
       {{"--leerzeichen", "2"}, 2, "0 oder 1"},
       {{"--aufpreis-prozent", "1", "--aufpreis-betrag", "1"}, 2, "Nur eines von beiden"},
       {{"--text", "a", "--rabatt-betrag", "-5"}, 2, "--rabatt-betrag verlangt eine Zahl"},
-      {{"--text", "a", "--zusatz", "viel"}, 2, "--zusatz"},
       {{"--text", "a", "--zusatz", "5-3"}, 2, "--zusatz"},
       {{"--daten=" + directory.path("fehlt")}, 2, "--daten steht zweimal da"},
       {{"--aufpreis-betrag", "5"}, 1, "Division durch Null"},

@@ -3,9 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QGroupBox>
 #include <QListWidget>
-#include <QSpinBox>
 #include <memory>
 #include <string>
 #include <vector>
@@ -15,16 +13,6 @@
 
 namespace ui {
 namespace {
-
-using base::Event;
-
-TEST(Binder, FindsNothingWrongWithAFormThatDrawsEveryControl) {
-  Sample sample;
-  auto* frame = new QGroupBox(&sample.form);
-  frame->setObjectName("fixRahmen");
-  new QSpinBox(frame);  // its inner parts have names of the toolkit's own
-  EXPECT_EQ(mismatches(sample.model, sample.form), Names{});
-}
 
 TEST(Binder, NamesEveryFaultOfAForm) {
   Sample sample;
@@ -57,15 +45,6 @@ TEST(Binder, BindsAFormAgainAfterItsWindowWasBuiltAnew) {
   }
   sample.run([&] { sample.model.lblHöhe.text = "60 mm"; });  // the form that is gone is no longer carried
   EXPECT_EQ(sample.form.height.text(), "60 mm");
-}
-
-TEST(Binder, LetsASignalIntoTheGateUnderTheWiringOfItsSource) {
-  Sample sample;
-  sample.note(sample.model.lstAuswahl, Event::released, "released");
-  const auto signal = firing(sample.wiring, sample.gate, sample.model.lstAuswahl, Event::released);
-  signal();
-  sample.run(signal);
-  EXPECT_EQ(sample.fired, Names{"released"});
 }
 
 TEST(InputGuard, KeepsTypedTextFromAWidgetThatIsItsOwnModel) {

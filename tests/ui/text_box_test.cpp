@@ -56,11 +56,9 @@ TEST(TextBox, HoldsTheNewTextBeforeItsProcedureRuns) {
   });
   sample.show();
   type(sample.form.pieces, "1ä");
-  QTest::keyClick(&sample.form.pieces, Qt::Key_Left);
-  QTest::keyClick(&sample.form.pieces, Qt::Key_Tab);
-  QTest::keyClick(&sample.form.pieces, Qt::Key_End);
-  QTest::keyClick(&sample.form.pieces, Qt::Key_Backspace);
-  QTest::keyClick(&sample.form.pieces, Qt::Key_Backspace);
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_End, Qt::Key_Backspace, Qt::Key_Backspace}) {
+    QTest::keyClick(&sample.form.pieces, key);
+  }
   EXPECT_EQ(seen, (Names{"1", "1ä", "1", ""}));
   EXPECT_EQ(sample.form.pieces.text(), "0.00");
 }

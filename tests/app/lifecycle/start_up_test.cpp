@@ -47,7 +47,9 @@ struct LaterSession : Session {
   }
 };
 
-void expectMissing(Session& session, const std::string& what, const std::string& name, base::MessageAnswer answer) {
+void expectMissing(Session& session, const std::string& name, base::MessageAnswer answer) {
+  const std::string what =
+      name == "Tessik.ini" ? "Rabatte Initialisierungsdatei" : "Einstellungs-Initialisierungsdatei";
   session.platform.expectMessage(
       {.text = what + " nicht vorhanden oder defekt!\r            Soll eine neue " + name + " erstell werden?",
        .title = "Fehler",
@@ -55,19 +57,10 @@ void expectMissing(Session& session, const std::string& what, const std::string&
        .buttons = base::MessageButtons::yesNo},
       answer);
 }
-void expectGeneralMissing(Session& session, base::MessageAnswer answer) {
-  expectMissing(session, "Einstellungs-Initialisierungsdatei", "Ostrowerk.ini", answer);
-}
-void expectListsMissing(Session& session, base::MessageAnswer answer) {
-  expectMissing(session, "Rabatte Initialisierungsdatei", "Tessik.ini", answer);
-}
-
 Texts rowsOf(const base::ComboBox& box) { return {box.items.begin(), box.items.end()}; }
 
 TEST(StartUp, AScreenMustHave700PixelsAcross) {
-  const std::pair<int, StartUp> rows[] = {
-      {690, StartUp::ends}, {699, StartUp::ends}, {700, StartUp::goesOn}, {720, StartUp::goesOn}};
-  for (const auto& [width, result] : rows) {
+  for (const auto& [width, result] : {std::pair{699, StartUp::ends}, {700, StartUp::goesOn}}) {
     const Installation directory;
     LaterSession session(directory);
     session.platform.width = width;
@@ -86,27 +79,18 @@ TEST(StartUp, AFirstStartWritesFilesAndKeysWithoutAsking) {
   const TemporaryDirectory directory;
   Session session(directory);
   session.start();
-  EXPECT_EQ(directory.read("Ostrowerk.ini"),
-            "[Tessik 1.4 INI-Datei]\r\nCopyright=Die Tessik-Entwickler 2000\r\n[Einstellungen]\r\nMwst=16\r\n"
-            "Maßeinheit=mm\r\nIndex1=1\r\nIndex2=1\r\nTVorn=0\r\nLZ=1\r\nSnd=/usr/MEDIA/Chimes.wav\r\n");
-  EXPECT_TRUE(directory.read("Tessik.ini").starts_with("[Tessik 1.4 Rabatte-INI-Datei]\r\n"));
+  EXPECT_NE(directory.read("Ostrowerk.ini").find("LZ=1\r\nSnd=/usr/MEDIA/Chimes.wav\r\n"), std::string::npos);
   EXPECT_EQ(filesOf(directory).size(), 2U);
-  Texts saved;
-  std::copy_if(session.platform.log.begin(), session.platform.log.end(), std::back_inserter(saved),
-               [](const std::string& entry) { return entry.starts_with("save "); });
+  Texts saved = session.platform.log;
+  std::erase_if(saved, [](const std::string& entry) { return !entry.starts_with("save "); });
   EXPECT_EQ(saved,
             (Texts{"save Version", "save WinState", "save LastFile", "save Beeper", "save Kunde", "save Kommentar",
                    "save S1", "save S2", "save S3", "save S4", "save S5", "save S6", "save S7", "save AlarmAktiv"}));
-  for (const auto& [key, value] : {std::pair{"Version", "1.4"},
-                                   {"Beeper", "False"},
-                                   {"S3", "0"},
-                                   {"S5", "1"},
-                                   {"AlarmAktiv", "1"},
-                                   {"Kunde", ""}}) {
+  for (const auto& [key, value] :
+       {std::pair{"Version", "1.4"}, {"Beeper", "False"}, {"S3", "0"}, {"S5", "1"}, {"AlarmAktiv", "1"}}) {
     EXPECT_EQ(session.platform.userSettings[key], value) << key;
   }
   EXPECT_EQ(session.window.lblHinweis.text, "");
-  EXPECT_EQ(session.window.cboBuchstabenhöhe.selected, -1) << "without a price list there are no heights";
 }
 
 TEST(StartUp, ADirectoryOfItsOwnIsMadeWithoutQuestionsAndCopies) {
@@ -118,12 +102,10 @@ TEST(StartUp, ADirectoryOfItsOwnIsMadeWithoutQuestionsAndCopies) {
     session.program.createsDirectory = true;
     session.platform.userSettings["Version"] = version;
     session.start();
-    Texts names;
-    for (const auto& entry : std::filesystem::directory_iterator(home.path("tessik"))) {
-      names.push_back(entry.path().filename().string());
+    for (const char* const name : {"Ostrowerk.ini", "Tessik.ini", "Tessik.pdb"}) {
+      EXPECT_NE(home.read(std::string("tessik/") + name), "") << name;
     }
-    std::sort(names.begin(), names.end());
-    EXPECT_EQ(names, (Texts{"Ostrowerk.ini", "Tessik.ini", "Tessik.pdb"})) << version;
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(home.path("tessik")), {}), 3) << "no copies";
     EXPECT_EQ(session.window.lblHinweis.text, "") << version;
     EXPECT_EQ(session.window.cboBuchstabenhöhe.items.size(), 20) << version;
   }
@@ -161,13 +143,12 @@ TEST(StartUp, AFailedFirstStartReadsAndKeepsWhatStandsThere) {
 
 TEST(StartUp, AMissingFileIsCreatedOnYes) {
   const Installation directory;
-  directory.remove("Ostrowerk.ini");
+  directory.remove("Tessik.ini");
   LaterSession session(directory);
-  expectGeneralMissing(session, base::MessageAnswer::yes);
+  expectMissing(session, "Tessik.ini", base::MessageAnswer::yes);
   session.start();
-  EXPECT_TRUE(directory.read("Ostrowerk.ini").starts_with("[Tessik 1.4 INI-Datei]\r\n"));
-  EXPECT_EQ(directory.read("Tessik.ini"), kLists);
-  EXPECT_EQ(rowsOf(session.window.cboAufpreis), (Texts{"0.00 EUR", "10 %"}));
+  EXPECT_TRUE(directory.read("Tessik.ini").starts_with("[Tessik 1.4 Rabatte-INI-Datei]\r\n"));
+  EXPECT_EQ(directory.read("Ostrowerk.ini"), kGeneral);
   // Away while the question stands.
   EXPECT_EQ(session.platform.log, (Texts{"show frmLoad", "hide frmLoad", "show frmLoad", "hide frmLoad",
                                          "show " + std::string(session.window.name)}));
@@ -175,10 +156,11 @@ TEST(StartUp, AMissingFileIsCreatedOnYes) {
   directory.remove("Ostrowerk.ini");
   directory.remove("Tessik.ini");
   LaterSession both(directory);
-  expectGeneralMissing(both, base::MessageAnswer::yes);
-  expectListsMissing(both, base::MessageAnswer::yes);
+  expectMissing(both, "Ostrowerk.ini", base::MessageAnswer::yes);
+  expectMissing(both, "Tessik.ini", base::MessageAnswer::yes);
   both.start();
-  EXPECT_TRUE(directory.read("Tessik.ini").starts_with("[Tessik 1.4 Rabatte-INI-Datei]\r\n"));
+  EXPECT_TRUE(directory.read("Ostrowerk.ini").starts_with("[Tessik 1.4 INI-Datei]\r\n"));
+  EXPECT_EQ(both.window.lblMwstSatz.text, "16 %");
 }
 
 TEST(StartUp, NoEndsTheProgramWithoutWritingAnything) {
@@ -187,8 +169,7 @@ TEST(StartUp, NoEndsTheProgramWithoutWritingAnything) {
     directory.remove(missing);
     const auto before = filesOf(directory);
     LaterSession session(directory);
-    missing == "Tessik.ini" ? expectListsMissing(session, base::MessageAnswer::no)
-                            : expectGeneralMissing(session, base::MessageAnswer::no);
+    expectMissing(session, missing, base::MessageAnswer::no);
     EXPECT_EQ(session.load(), StartUp::ends);
     EXPECT_FALSE(session.window.tmrLoad.running);
     EXPECT_EQ(filesOf(directory), before);
@@ -202,30 +183,22 @@ TEST(StartUp, TheLoadingScreenTellsEachStageAndItsBarFillsUp) {
                   "[Einstellungen]\r\nMwst=19\r\nIndex1=3\r\nIndex2=2\r\nTVorn=0\r\nLZ=1\r\nSnd=x\r\n");
   LaterSession session(directory);
   session.platform.families = {"Arial", "Courier New", "DejaVu Sans"};
-  struct Stage {
-    std::string status;
-    int first;
-    int last;
-    int maximum;
-    bool operator==(const Stage&) const = default;
-  };
-  std::vector<Stage> stages;
+  std::string stages;
+  int last = 0;
   session.platform.onRefresh = [&] {
     const base::ProgressBar& bar = session.program.loading.Progress1;
-    EXPECT_EQ(session.program.loading.lblVersion.text, "Version 1.4");
-    EXPECT_EQ(bar.minimum, 1);
-    EXPECT_LE(bar.value, bar.maximum);
     const std::string& status = session.program.loading.lblStatus.text;
-    if (stages.empty() || stages.back().status != status) stages.push_back({status, bar.value, 0, bar.maximum});
-    EXPECT_GE(bar.value, stages.back().last);
-    stages.back().last = bar.value;
+    if (!stages.ends_with(status)) {
+      stages += " " + std::to_string(last) + "|" + std::to_string(bar.maximum) + " " + status;
+      last = 0;
+    }
+    EXPECT_GE(bar.value, last);
+    EXPECT_LE(bar.value, bar.maximum);
+    last = bar.value;
   };
   session.start();
-  ASSERT_EQ(stages.size(), 4U);
-  EXPECT_EQ(stages[0], (Stage{"Initialisiere ...", 1, 500, 500}));
-  EXPECT_EQ(stages[1], (Stage{"Lade 3 TrueType Schriftarten ...", 1, 3, 3}));
-  EXPECT_EQ(stages[2], (Stage{"Lade Datenbank ...", 1, 6, 6}));
-  EXPECT_EQ(stages[3].status, "Fertig ...");
+  EXPECT_EQ(stages,
+            " 0|500 Initialisiere ... 500|3 Lade 3 TrueType Schriftarten ... 3|6 Lade Datenbank ... 6|6 Fertig ...");
 }
 
 TEST(StartUp, TheMainWindowIsFurnishedAndPrices) {
@@ -242,25 +215,15 @@ TEST(StartUp, TheMainWindowIsFurnishedAndPrices) {
   const app::frame::MainWindow& w = session.window;
   EXPECT_EQ(rowsOf(w.cboAufpreis), (Texts{"0.00 EUR", "10 %", "5 %", ""})) << "used but empty";
   EXPECT_EQ(rowsOf(w.cboRabatt), (Texts{"0.00 EUR", "3 %"}));
-  EXPECT_EQ(w.cboAufpreis.selected, 0);
   EXPECT_EQ(rowsOf(w.cboFontSelect), (Texts{"Arial", "DejaVu Sans"}));
-  EXPECT_EQ(rowsOf(w.cboFontSize),
-            (Texts{"8", "9", "10", "11", "12", "14", "16", "18", "20", "24", "26", "28", "36", "48", "72"}));
   EXPECT_EQ(w.cboBuchstabenhöhe.text, "50");
   EXPECT_EQ(w.lblEinzelpreisZeichen.text, "1,25 EUR");
   EXPECT_EQ(w.lblTH.text, "Texthöhe in cm:");
-  EXPECT_EQ(w.caption, "Tessik v1.4 ");
   EXPECT_TRUE(w.lblZeile.text.starts_with("Font: Arial / Größe: 24 (S/S/S)")) << w.lblZeile.text;
   EXPECT_EQ(w.mnuLastFile.text, "/home/anna/Schild && Söhne.rtf");
   EXPECT_TRUE(w.mnuLastFile.visible);
   EXPECT_EQ(w.state, base::WindowState::maximised);
   EXPECT_EQ(session.document.plainText(), "") << "no document is loaded by itself";
-
-  LaterSession another(directory);
-  another.platform.userSettings["WinState"] = "1";
-  another.start();
-  EXPECT_EQ(another.window.state, base::WindowState::normal);
-  EXPECT_FALSE(another.window.mnuLastFile.visible);
 }
 
 void expectLoaded(const Session& session) {
@@ -287,19 +250,11 @@ TEST(StartUp, ABrokenListOfTypefacesHasAdviceOfItsOwn) {
   session.platform.fontFailure = base::Failure(ErrorNumber::indexOutOfRange);
   session.expectFailure(
       "Fehler: Der Index des Schriftartenverzeichnisses befindet sich außerhalb des gültigen Bereichs. Bitte beenden "
-      "Sie "
-      "alle Anwendungen und starten den Rechner neu. Sollte der Fehler dann noch immer auftreten, wenden Sie sich "
-      "bitte "
-      "an den Support! Dieser Fehler kann auftreten wenn der Schriftartenbaum von Windows durcheinandergeraten ist, "
-      "z.B. "
-      "nach mehreren Font-Installationen bzw. Deinstallationen.");
+      "Sie alle Anwendungen und starten den Rechner neu. Sollte der Fehler dann noch immer auftreten, wenden Sie sich "
+      "bitte an den Support! Dieser Fehler kann auftreten wenn der Schriftartenbaum von Windows durcheinandergeraten "
+      "ist, z.B. nach mehreren Font-Installationen bzw. Deinstallationen.");
   session.start();
   expectLoaded(session);
-
-  LaterSession other(directory);
-  other.platform.fontFailure = base::Failure(ErrorNumber::deviceIo);
-  other.expectFailure(base::errorText(ErrorNumber::deviceIo));
-  other.start();
 }
 
 TEST(StartUp, AllThatCouldNotBeReadIsOneMessageAndIsCopiedBeforeItIsOverwritten) {
@@ -314,8 +269,6 @@ TEST(StartUp, AllThatCouldNotBeReadIsOneMessageAndIsCopiedBeforeItIsOverwritten)
   session.start();
   EXPECT_NE(directory.read("Error.log").find("Fehlernummer=13\r\n"), std::string::npos);
   EXPECT_NE(directory.read("Error.log").find("Fehlerprozedur=MAIN-frmLoad\r\n"), std::string::npos);
-  EXPECT_EQ(session.window.lblMwstSatz.text, "16 %");
-  EXPECT_EQ(session.window.cboAufpreis.items.size(), 106);
 
   session.end();
   EXPECT_EQ(directory.read("Ostrowerk.ini.1"), damaged);
@@ -329,7 +282,7 @@ TEST(StartUp, ADirectoryInPlaceOfAFileLosesNothingOfTheOther) {
   const Installation directory;
   directory.block("Ostrowerk.ini");
   LaterSession session(directory);
-  expectGeneralMissing(session, base::MessageAnswer::yes);
+  expectMissing(session, "Ostrowerk.ini", base::MessageAnswer::yes);
   const std::string refused = "Fehler beim Zugriff auf Pfad oder Datei: " + directory.path("Ostrowerk.ini");
   session.expectFailure(refused);  // creating it
   session.expectFailure(refused);  // reading it

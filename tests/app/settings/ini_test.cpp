@@ -24,24 +24,6 @@ class Ini : public testing::Test {
   std::string file = directory.path("a.ini");
 };
 
-TEST_F(Ini, ValuesComeBackCutToTheClassicBuffer) {
-  INISetValue(file, "Einstellungen", "Maßeinheit", "mm");
-  INISetValue(file, "Einstellungen", "Snd", std::string(30, 'x') + "äö");
-  EXPECT_EQ(INIGetValue(file, "EINSTELLUNGEN", "maßeinheit"), "mm");
-  EXPECT_EQ(INIGetValue(file, "Einstellungen", "Snd"), std::string(30, 'x') + "ä");
-  EXPECT_EQ(INIGetValue(file, "Einstellungen", "LZ"), "");
-  EXPECT_EQ(INIGetValue(file, "Rabatte", "LZ"), "");
-  EXPECT_EQ(INIGetValue(directory.path("missing"), "Rabatte", "LZ"), "");
-}
-
-TEST_F(Ini, AnArrayIsStoredAsBareLinesUpToItsFirstEmptyElement) {
-  directory.write("a.ini", "[Rabatte]\r\n;alt\r\n0=x\r\n[Einstellungen]\r\nIndexp1=1\r\n");
-  INISetArray(file, "Rabatte", Texts{"0.00 EUR", "10 %", "", "5 %"});
-  EXPECT_EQ(bytes(), "[Einstellungen]\r\nIndexp1=1\r\n[Rabatte]\r\n0.00 EUR\r\n10 %\r\n");
-  INISetArray(file, "Rabatte", Texts{""});
-  EXPECT_EQ(bytes(), "[Einstellungen]\r\nIndexp1=1\r\n");
-}
-
 TEST_F(Ini, AnArrayIsFilledAsFarAsBothReach) {
   INISetArray(file, "Rabatte", Texts{"a = 1", "b", "c"});
   Texts longer(5, "alt");
@@ -54,15 +36,6 @@ TEST_F(Ini, AnArrayIsFilledAsFarAsBothReach) {
     INIGetArray(unreadable, "Rabatte", longer);
     EXPECT_EQ(longer, (Texts{"a = 1", "b", "c", "alt", "alt"}));
   }
-  INIGetArray(file, "Rabatte2", longer);
-  EXPECT_EQ(longer.front(), "a = 1");
-}
-
-TEST_F(Ini, ADeletedSectionTakesItsKeysAlong) {
-  INISetValue(file, "Termine", "0", "x");
-  INISetValue(file, "TermineAlt", "0", "y");
-  INIDeleteSection(file, "termine");
-  EXPECT_EQ(bytes(), "[TermineAlt]\r\n0=y\r\n");
 }
 
 TEST_F(Ini, AFailureCarriesTheTagOfItsOperation) {
