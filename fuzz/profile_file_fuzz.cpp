@@ -36,7 +36,8 @@ std::string asReadBack(std::string_view value) {
   const std::string_view trimmed = base::withoutOuterBlanks(line);
   const bool quoted =
       trimmed.size() > 1 && trimmed.front() == trimmed.back() && (trimmed.front() == '"' || trimmed.front() == '\'');
-  return std::string(quoted ? trimmed.substr(1, trimmed.size() - 2) : trimmed);
+  const std::string_view text = quoted ? trimmed.substr(1, trimmed.size() - 2) : trimmed;
+  return std::string(text.substr(0, text.find('\0')));
 }
 
 bool isOrdinaryKey(std::string_view key) {
