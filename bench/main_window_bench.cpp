@@ -33,7 +33,8 @@ struct Desk {
   Desk() : bound((app::lifecycle::wire(program, parts), form.bindTo(program.main, program.wiring, gate, sync))) {
     program.main.cboBuchstabenhöhe.items.assign({"50", "100"});
     program.main.List1.items = {calc::alignedPrice("1.25"), calc::alignedPrice("2.50")};
-    app::commands::selectHeight(parts, 0);
+    program.main.cboBuchstabenhöhe.select(0);
+    app::commands::calculate(parts);
     sync.open(bound);
     form.show();
     QApplication::processEvents();
@@ -100,7 +101,7 @@ void priceList() {
   Desk desk;
   const double time = bench::medianMilliseconds(
       15, [] { return 0; },
-      [&](int /*unused*/) { desk.gate.userEvent([&] { calc::loadPriceDatabase(desk.program.main, file.string()); }); });
+      [&](int /*unused*/) { desk.gate.userEvent([&] { calc::LoadPriceDatabase(desk.program.main, file.string()); }); });
   std::printf("\nA price list of %d rows into the main window (ms)\n", kRows);
   bench::Table({"load and show"}).row("", {time});
   std::filesystem::remove(file);

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/lifecycle/version.h"
+#include "base/version.h"
 #include "terminal/price_command.h"
 #include "ui/application.h"
 
@@ -39,7 +39,7 @@ int main(int argc, char** argv) {
   if (asksFor(arguments, "--help")) {
     std::cout << kHelp;
   } else if (asksFor(arguments, "--version")) {
-    std::cout << app::lifecycle::versionLine() << '\n';
+    std::cout << base::versionLine() << '\n';
   } else {
     return ui::runApplication(argc, argv);
   }

@@ -84,7 +84,7 @@ std::optional<std::string> readFile(const std::string& path) {
   }
 }
 
-bool fileExists(const std::string& path) {
+bool FileExists(const std::string& path) {
   std::error_code ignored;
   return std::filesystem::is_regular_file(path, ignored);
 }

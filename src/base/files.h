@@ -18,7 +18,7 @@ Failure fileFailure(ErrorNumber number, const std::string& path);
 std::optional<std::string> readFile(const std::string& path);
 
 /// True when `path` is a normal file (a link to one counts); a directory or an unreadable path is not.
-bool fileExists(const std::string& path);
+bool FileExists(const std::string& path);
 
 /// The directory a file lies in, "." for a bare name.
 std::string directoryOf(const std::string& path);

@@ -25,7 +25,7 @@ std::string alignedPrice(const std::string& price) {
   return std::string(kPriceWidth - length, ' ') + base::withDecimalPoint(price);
 }
 
-void loadPriceDatabase(app::frame::MainWindow& window, const std::string& file) {
+void LoadPriceDatabase(app::frame::MainWindow& window, const std::string& file) {
   window.cboBuchstabenhöhe.clear();
   window.List1.items.clear();
   const base::ProfileFile database = base::ProfileFile::load(file);

@@ -14,7 +14,6 @@
 
 #include "app/lifecycle/program.h"
 #include "app/lifecycle/program_directory.h"
-#include "app/lifecycle/version.h"
 #include "app/lifecycle/wire.h"
 #include "app/settings/settings_files.h"
 #include "base/code_page.h"
@@ -22,6 +21,7 @@
 #include "base/memory_rich_text.h"
 #include "base/number.h"
 #include "base/text.h"
+#include "base/version.h"
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
 #include "qtcore/locale.h"
@@ -96,7 +96,7 @@ void readSettings(app::lifecycle::Program& program, const PriceRequest& request,
 void loadLists(const MainParts& parts) {
   calc::fillAdjustments(parts.window.cboAufpreis, parts.settings.adjustments.surcharges);
   calc::fillAdjustments(parts.window.cboRabatt, parts.settings.adjustments.discounts);
-  base::tagged("MAIN-tmrLoad", [&] { calc::loadPriceDatabase(parts.window, parts.paths.priceDatabase()); });
+  base::tagged("MAIN-tmrLoad", [&] { calc::LoadPriceDatabase(parts.window, parts.paths.priceDatabase()); });
 }
 
 std::string trimmed(const std::string& text) {
@@ -185,7 +185,7 @@ int runPriceCommand(std::span<const std::string> arguments, const Streams& strea
     for (std::string& text : texts) text = decoded(std::move(text));
     const PriceRequest request = parseArguments(texts);
     streams.out << (request.help      ? std::string(kPriceHelp)
-                    : request.version ? app::lifecycle::versionLine() + "\n"
+                    : request.version ? base::versionLine() + "\n"
                                       : price(request, streams))
                 << std::flush;
     if (!streams.out) throw base::Failure(base::ErrorNumber::deviceIo, "Die Ausgabe konnte nicht geschrieben werden.");

@@ -42,7 +42,7 @@ TEST(PriceDatabase, LoadsWhatIsThere) {
   for (const Row& row : priceFiles()) {
     directory.write("Tessik.pdb", row.file);
     app::frame::MainWindow window;
-    calc::loadPriceDatabase(window, directory.path("Tessik.pdb"));
+    calc::LoadPriceDatabase(window, directory.path("Tessik.pdb"));
     const auto& items = window.cboBuchstabenhöhe.items;
     EXPECT_EQ(std::vector<std::string>(items.begin(), items.end()), row.heights) << row.name;
     for (std::size_t i = 0; i < row.prices.size(); ++i) {
@@ -58,7 +58,7 @@ TEST(PriceDatabase, ATooLongPriceEndsTheLoadAndKeepsWhatCameBefore) {
                   "[Versalien]\n0=10\n1=20\n2=30\n[Preise]\n0=1234567890123,45\n1=12345678901234,56\n2=3\n");
   app::frame::MainWindow window;
   try {
-    calc::loadPriceDatabase(window, directory.path("Tessik.pdb"));
+    calc::LoadPriceDatabase(window, directory.path("Tessik.pdb"));
     FAIL() << "a price of 17 characters was taken";
   } catch (const base::Failure& failure) {
     EXPECT_EQ(failure.number(), base::ErrorNumber::invalidCall);
@@ -74,10 +74,10 @@ TEST(PriceDatabase, AMissingFileLeavesTheListsEmptyAndADirectoryIsAFailure) {
   app::frame::MainWindow window;
   window.cboBuchstabenhöhe.items.add("alt");
   window.List1.items.emplace_back("alt");
-  calc::loadPriceDatabase(window, directory.path("Tessik.pdb"));
+  calc::LoadPriceDatabase(window, directory.path("Tessik.pdb"));
   EXPECT_TRUE(window.cboBuchstabenhöhe.items.empty());
   EXPECT_TRUE(window.List1.items.empty());
-  EXPECT_THROW(calc::loadPriceDatabase(window, directory.path("")), base::Failure);
+  EXPECT_THROW(calc::LoadPriceDatabase(window, directory.path("")), base::Failure);
 }
 
 }  // namespace

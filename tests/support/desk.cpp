@@ -12,7 +12,8 @@ void Desk::offerHeights(const std::vector<std::pair<std::string, std::string>>& 
     window.cboBuchstabenhöhe.items.add(height);
     window.List1.items.push_back(calc::alignedPrice(price));
   }
-  app::commands::selectHeight(parts, 0);
+  window.cboBuchstabenhöhe.select(0);
+  app::commands::calculate(parts);
 }
 
 void Desk::write(std::string_view lettering) {

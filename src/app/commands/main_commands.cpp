@@ -1,7 +1,7 @@
 // The main window's wiring.
 #include "app/commands/main_commands.h"
 
-#include "app/settings/user_keys.h"
+#include "base/version.h"
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
 #include "calc/running_sum.h"
@@ -63,7 +63,7 @@ void wireProgram(Wiring& wiring, const MainParts& parts) {
             reported(parts, "MAIN-mnuExit_Click", [](const MainParts& p) { p.platform.close(p.window); }));
   wiring.on(parts.window.mnuInfo, Event::click, reported(parts, "MAIN-mnuInfo_Click", [](const MainParts& p) {
               p.platform.messageBox(
-                  {.text = "Tessik " + std::string(settings::kDefaultsVersion) +
+                  {.text = base::versionLine() +
                            "\r\nKalkulation für Folienbeschriftungen\r\n\r\nDaten: " + p.paths.programDirectory,
                    .title = "Über Tessik",
                    .icon = base::MessageIcon::information});
@@ -156,11 +156,6 @@ calc::CalcParts calcParts(const MainParts& parts) {
 
 void calculate(const MainParts& parts) { calc::Calc(calcParts(parts)); }
 
-void selectHeight(const MainParts& parts, int index) {
-  parts.window.cboBuchstabenhöhe.select(index);
-  calculate(parts);
-}
-
 void selectSurcharge(const MainParts& parts, int index) {
   parts.window.cboAufpreis.select(index);
   calc::surchargeChosen(parts.window, parts.settings.adjustments.surcharges);
@@ -174,7 +169,7 @@ void selectDiscount(const MainParts& parts, int index) {
 }
 
 void EditDatabase(const MainParts& parts) {
-  base::tagged("MAIN-EditDatabase", [&parts] { calc::loadPriceDatabase(parts.window, parts.paths.priceDatabase()); });
+  base::tagged("MAIN-EditDatabase", [&parts] { calc::LoadPriceDatabase(parts.window, parts.paths.priceDatabase()); });
 }
 
 void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {

@@ -32,8 +32,7 @@ calc::CalcParts calcParts(const MainParts& parts);
 /// Runs the calculation; a failure is the caller's.
 void calculate(const MainParts& parts);
 
-/// Selects a cap height as a person does: the calculation follows.
-void selectHeight(const MainParts& parts, int index);
+/// Selects an entry as a person does: the order labels, the tool tip and the calculation follow.
 void selectSurcharge(const MainParts& parts, int index);
 void selectDiscount(const MainParts& parts, int index);
 

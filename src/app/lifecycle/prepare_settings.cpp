@@ -36,7 +36,7 @@ void resetKeys(settings::UserKeys& keys) {
 
 // Defaults over files of another installation: what they hold is kept beside them.
 void writeFirstStart(Program& program, base::Platform& platform) {
-  const bool isNew = !base::fileExists(pathOf(program.paths, File::general));
+  const bool isNew = !base::FileExists(pathOf(program.paths, File::general));
   // A store that refuses would make every start a first one; then the files stay as they are.
   if (!isNew) platform.saveUserSettings({{"RGF", program.settings.user.undoDepth}});
   keepCopy(program, File::lists);
@@ -67,7 +67,7 @@ bool mayCreate(base::Platform& platform, const std::string& what, const std::str
 }
 
 StartUp createIfMissing(Program& program, const commands::MainParts& parts, File file) {
-  if (base::fileExists(pathOf(program.paths, file))) return StartUp::goesOn;
+  if (base::FileExists(pathOf(program.paths, file))) return StartUp::goesOn;
   parts.platform.hide(program.loading);
   const bool may = file == File::general
                        ? mayCreate(parts.platform, "Einstellungs-Initialisierungsdatei", "Ostrowerk.ini")

@@ -5,10 +5,10 @@
 #include "app/errors/reporting.h"
 #include "app/frame/main_window.h"
 #include "app/lifecycle/loading_window.h"
-#include "app/lifecycle/version.h"
 #include "app/settings/settings.h"
 #include "app/settings/settings_files.h"
 #include "base/build_values.h"
+#include "base/version.h"
 #include "base/wiring.h"
 #include "calc/picker.h"
 
@@ -22,7 +22,8 @@ struct Program {
   frame::CalcResults results;
   calc::PickerWindow picker;
   LoadingWindow loading;
-  errors::ProgramInformation information{.version = kVersion, .build = std::string(base::kBuildText), .directory = {}};
+  errors::ProgramInformation information{
+      .version = base::kVersion, .build = std::string(base::kBuildText), .directory = {}};
   // Of the settings files, nothing of which is read at first; what was not read is not overwritten without a copy.
   settings::ReadReport readReport{.problems = {}, .generalIsWhole = false, .listsAreWhole = false};
   base::Wiring wiring;

@@ -33,7 +33,7 @@ DirectoryCandidates directoryCandidates(std::optional<std::string> given) {
 ProgramDirectory programDirectory(const DirectoryCandidates& candidates) {
   if (candidates.given) return {.path = *candidates.given};
   const settings::Paths portable{candidates.programFileDirectory};
-  if (base::fileExists(portable.generalSettings())) return {.path = candidates.programFileDirectory};
+  if (base::FileExists(portable.generalSettings())) return {.path = candidates.programFileDirectory};
   return {.path = base::joinPath(candidates.userDataDirectory, "tessik"), .isUsersOwn = true};
 }
 

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "app/lifecycle/prepare_settings.h"
-#include "app/lifecycle/version.h"
 #include "app/settings/settings_files.h"
 #include "base/text.h"
+#include "base/version.h"
 #include "calc/adjustments.h"
 #include "calc/calc.h"
 #include "calc/price_database.h"
@@ -43,7 +43,7 @@ void fillFixedLists(Program& program, const commands::MainParts& parts) {
   parts.document.setFormat(editor::startFormat());
   window.cboFontSize.clear();
   for (const int size : kFontSizes) window.cboFontSize.items.add(std::to_string(size));
-  window.caption = "Tessik v" + std::string(kVersion) + " ";
+  window.caption = "Tessik v" + std::string(base::kVersion) + " ";
   window.mnuLastFile.text = base::replaceAll(program.settings.user.lastFile, "&", "&&");
   window.mnuLastFile.enabled = false;  // until documents can be opened
   window.mnuLastFile.visible = !program.settings.user.lastFile.empty();
@@ -86,7 +86,7 @@ void addEntries(base::ComboBox& box, const settings::AdjustmentList& list, Loadi
 }
 
 // A list of typefaces that does not hold what it says is a fault of the system, with advice of its own.
-std::vector<std::string> fontFamilies(const base::Platform& platform) {
+std::vector<std::string> GetFonts(const base::Platform& platform) {
   try {
     return platform.fontFamilies();
   } catch (const base::Failure& failure) {
@@ -102,7 +102,7 @@ std::vector<std::string> fontFamilies(const base::Platform& platform) {
 }
 
 void loadTypefaces(const commands::MainParts& parts, Loading& loading) {
-  const std::vector<std::string> families = fontFamilies(parts.platform);
+  const std::vector<std::string> families = GetFonts(parts.platform);
   const int count = static_cast<int>(families.size());
   loading.stage("Lade " + std::to_string(count) + " TrueType Schriftarten ...", count);
   parts.window.cboFontSelect.clear();
@@ -116,7 +116,7 @@ void loadTypefaces(const commands::MainParts& parts, Loading& loading) {
 void loadAll(Program& program, const commands::MainParts& parts) {
   constexpr int kOpeningSteps = 500;
   Loading loading(program.loading, parts.platform);
-  program.loading.lblVersion.text = std::string("Version ") + kVersion;
+  program.loading.lblVersion.text = std::string("Version ") + base::kVersion;
   loading.stage("Initialisiere ...", kOpeningSteps);
   for (int step = 1; step < kOpeningSteps; ++step) loading.step();
   loadTypefaces(parts, loading);
@@ -125,7 +125,7 @@ void loadAll(Program& program, const commands::MainParts& parts) {
   loading.stage("Lade Datenbank ...", lists.surcharges.count + lists.discounts.count + 1);
   addEntries(parts.window.cboAufpreis, lists.surcharges, loading);
   addEntries(parts.window.cboRabatt, lists.discounts, loading);
-  calc::loadPriceDatabase(parts.window, program.paths.priceDatabase());
+  calc::LoadPriceDatabase(parts.window, program.paths.priceDatabase());
   loading.finished();
 }
 

@@ -189,7 +189,7 @@ void saveSettings(const Paths& paths, const Settings& settings, File file, ReadR
 }
 
 std::optional<std::string> keepNumberedCopy(const std::string& path) {
-  if (!base::fileExists(path)) return std::nullopt;
+  if (!base::FileExists(path)) return std::nullopt;
   std::string copy;
   for (int number = 1;; ++number) {
     copy = path + "." + std::to_string(number);

@@ -56,7 +56,7 @@ TEST(FirstUse, TheSamplePriceListIsWholeAndPricesEveryHeight) {
   EXPECT_FALSE(std::filesystem::exists(directory + ".neu"));
 
   app::frame::MainWindow window;
-  calc::loadPriceDatabase(window, directory + "/Tessik.pdb");
+  calc::LoadPriceDatabase(window, directory + "/Tessik.pdb");
   const int heights = window.cboBuchstabenhöhe.items.size();
   EXPECT_GE(heights, 18);
   EXPECT_LE(heights, 25);

@@ -3,11 +3,11 @@
 
 #include <string>
 
-namespace app::lifecycle {
+namespace base {
 
 inline constexpr const char* kVersion = "1.4";
 
 /// "Tessik 1.4".
 inline std::string versionLine() { return std::string("Tessik ") + kVersion; }
 
-}  // namespace app::lifecycle
+}  // namespace base
