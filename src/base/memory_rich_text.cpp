@@ -13,6 +13,15 @@ namespace {
 // No character below this one ever joins the character before it.
 constexpr char32_t kFirstCombining = 0x0300;
 
+CharFormat merged(CharFormat format, const FormatChange& change) {
+  format.family = change.family.value_or(format.family);
+  format.points = change.points.value_or(format.points);
+  format.bold = change.bold.value_or(format.bold);
+  format.italic = change.italic.value_or(format.italic);
+  format.underline = change.underline.value_or(format.underline);
+  return format;
+}
+
 }  // namespace
 
 MemoryRichText::MemoryRichText(Composer composer) : composer_(std::move(composer)) {}
@@ -61,15 +70,17 @@ TextCount MemoryRichText::countSelection() const { return count(selected()); }
 
 CharFormat MemoryRichText::format() const { return formats_[formatIndex()]; }
 
-void MemoryRichText::setFormat(const CharFormat& format) {
-  const std::size_t index = indexOf(format);
+void MemoryRichText::changeFormat(const FormatChange& change) {
   if (selection_.length == 0) {
+    const std::size_t index = indexOf(merged(format(), change));
     typedNext_ = index;
     if (text_.empty()) emptyFormat_ = index;
     return;
   }
   const Piece piece = selected();
-  for (std::size_t i = piece.begin; i < piece.end; ++i) text_[i].format = index;
+  for (std::size_t i = piece.begin; i < piece.end; ++i) {
+    text_[i].format = indexOf(merged(formats_[text_[i].format], change));
+  }
   ++revision_;
 }
 

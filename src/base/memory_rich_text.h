@@ -31,7 +31,7 @@ class MemoryRichText : public RichText {
   [[nodiscard]] TextCount countAll() const override { return count_; }
   [[nodiscard]] TextCount countSelection() const override;
   [[nodiscard]] CharFormat format() const override;
-  void setFormat(const CharFormat& format) override;
+  void changeFormat(const FormatChange& change) override;
   [[nodiscard]] Caret caret() const override;
   [[nodiscard]] std::uint64_t revision() const override { return revision_; }
 

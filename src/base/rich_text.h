@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -53,6 +54,15 @@ struct CharFormat {
   bool operator==(const CharFormat&) const = default;
 };
 
+/// What of a character format is to change; the rest stays as each character has it.
+struct FormatChange {
+  std::optional<std::string> family = {};
+  std::optional<double> points = {};
+  std::optional<bool> bold = {};
+  std::optional<bool> italic = {};
+  std::optional<bool> underline = {};
+};
+
 /// A type size as it is shown: "24", "10.5".
 std::string pointsText(double points);
 
@@ -88,7 +98,11 @@ class RichText {
   /// the character before the caret or, at the start of a line, behind it.
   [[nodiscard]] virtual CharFormat format() const = 0;
   /// Gives the selection, or what is typed next when nothing is selected, this format.
-  virtual void setFormat(const CharFormat& format) = 0;
+  void setFormat(const CharFormat& format) {
+    changeFormat({format.family, format.points, format.bold, format.italic, format.underline});
+  }
+  /// The same for a part of the format: a selection of several typefaces made bold keeps them.
+  virtual void changeFormat(const FormatChange& change) = 0;
 
   [[nodiscard]] virtual Caret caret() const = 0;
   /// Grows with every change of the text; a change of format alone may count as one.

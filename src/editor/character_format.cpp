@@ -22,15 +22,25 @@ void showIn(base::ComboBox& box, const std::string& text) {
 
 base::CharFormat startFormat() { return {.family = "Arial", .points = 24}; }
 
-void applyFormat(const app::frame::MainWindow& window, base::RichText& document) {
-  base::CharFormat format = document.format();
-  if (!window.cboFontSelect.text.empty()) format.family = window.cboFontSelect.text;
+void applyTypeface(const app::frame::MainWindow& window, base::RichText& document) {
+  if (!window.cboFontSelect.text.empty()) document.changeFormat({.family = window.cboFontSelect.text});
+}
+
+void applySize(const app::frame::MainWindow& window, base::RichText& document) {
   const double points = base::typedAmount(window.cboFontSize.text);
-  if (points > 0) format.points = points;
-  format.bold = window.cmdFett.pressed;
-  format.italic = window.cmdKursiv.pressed;
-  format.underline = window.cmdUnterstrichen.pressed;
-  document.setFormat(format);
+  if (points > 0) document.changeFormat({.points = points});
+}
+
+void applyBold(const app::frame::MainWindow& window, base::RichText& document) {
+  document.changeFormat({.bold = window.cmdFett.pressed});
+}
+
+void applyItalic(const app::frame::MainWindow& window, base::RichText& document) {
+  document.changeFormat({.italic = window.cmdKursiv.pressed});
+}
+
+void applyUnderline(const app::frame::MainWindow& window, base::RichText& document) {
+  document.changeFormat({.underline = window.cmdUnterstrichen.pressed});
 }
 
 void showFormat(app::frame::MainWindow& window, const base::RichText& document) {

@@ -10,9 +10,13 @@ namespace editor {
 /// The format of an empty document: Arial, as everywhere, in a size that is read at a glance.
 base::CharFormat startFormat();
 
-/// Gives the selection, or what is typed next, what the selectors and buttons of the main window show; a selector that
-/// shows nothing changes nothing.
-void applyFormat(const app::frame::MainWindow& window, base::RichText& document);
+/// Each gives the selection, or what is typed next, what its selector or button in the main window shows, and leaves
+/// the rest of every character's format. A selector that shows nothing changes nothing.
+void applyTypeface(const app::frame::MainWindow& window, base::RichText& document);
+void applySize(const app::frame::MainWindow& window, base::RichText& document);
+void applyBold(const app::frame::MainWindow& window, base::RichText& document);
+void applyItalic(const app::frame::MainWindow& window, base::RichText& document);
+void applyUnderline(const app::frame::MainWindow& window, base::RichText& document);
 
 /// Shows the format at the selection in the selectors and buttons of the main window.
 void showFormat(app::frame::MainWindow& window, const base::RichText& document);

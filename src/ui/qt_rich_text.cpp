@@ -13,13 +13,13 @@
 namespace ui {
 namespace {
 
-QTextCharFormat toQt(const base::CharFormat& format) {
+QTextCharFormat toQt(const base::FormatChange& change) {
   QTextCharFormat result;
-  result.setFontFamilies({toQString(format.family)});
-  result.setFontPointSize(format.points);
-  result.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
-  result.setFontItalic(format.italic);
-  result.setFontUnderline(format.underline);
+  if (change.family) result.setFontFamilies({toQString(*change.family)});
+  if (change.points) result.setFontPointSize(*change.points);
+  if (change.bold) result.setFontWeight(*change.bold ? QFont::Bold : QFont::Normal);
+  if (change.italic) result.setFontItalic(*change.italic);
+  if (change.underline) result.setFontUnderline(*change.underline);
   return result;
 }
 
@@ -76,8 +76,8 @@ base::CharFormat QtRichText::format() const {
   return fromQt(cursor.charFormat(), edit_.document()->defaultFont());
 }
 
-void QtRichText::setFormat(const base::CharFormat& format) {
-  const QTextCharFormat wanted = toQt(format);
+void QtRichText::changeFormat(const base::FormatChange& change) {
+  const QTextCharFormat wanted = toQt(change);
   QTextCursor cursor = edit_.textCursor();
   // What is typed next forgets its format when the caret moves; an empty line must keep it.
   if (!cursor.hasSelection() && cursor.block().length() == 1) cursor.mergeBlockCharFormat(wanted);

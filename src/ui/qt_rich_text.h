@@ -23,7 +23,7 @@ class QtRichText : public base::RichText {
   [[nodiscard]] base::TextCount countAll() const override { return edit_.index().countAll(); }
   [[nodiscard]] base::TextCount countSelection() const override;
   [[nodiscard]] base::CharFormat format() const override;
-  void setFormat(const base::CharFormat& format) override;
+  void changeFormat(const base::FormatChange& change) override;
   [[nodiscard]] base::Caret caret() const override;
   [[nodiscard]] std::uint64_t revision() const override { return edit_.index().revision(); }
 

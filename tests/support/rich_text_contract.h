@@ -170,6 +170,21 @@ TEST_P(RichTextContract, theFormatIsThatOfTheSelectionOrOfWhatIsTypedNext) {
   EXPECT_EQ(text->format(), plain);
 }
 
+TEST_P(RichTextContract, aChangeOfOnePartKeepsTheOthersOfEveryCharacter) {
+  const base::CharFormat plain{};
+  const base::CharFormat large{.family = "Courier New", .points = 48, .italic = true};
+  text->setFormat(plain);
+  text->setPlainText("ab");
+  text->select({1, 1});
+  text->setFormat(large);
+  text->select({0, 2});
+  text->changeFormat({.bold = true});
+  text->select({0, 1});
+  EXPECT_EQ(text->format(), (base::CharFormat{.bold = true}));
+  text->select({1, 1});
+  EXPECT_EQ(text->format(), (base::CharFormat{.family = "Courier New", .points = 48, .bold = true, .italic = true}));
+}
+
 TEST_P(RichTextContract, composingKeepsTheFormatsAround) {
   const base::CharFormat plain{};
   const base::CharFormat bold{.bold = true};

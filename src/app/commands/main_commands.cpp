@@ -30,15 +30,17 @@ void wireDocument(Wiring& wiring, const MainParts& parts) {
 }
 
 void wireFormat(Wiring& wiring, const MainParts& parts) {
-  const auto apply = [](const MainParts& p) {
-    editor::applyFormat(p.window, p.document);
-    calculate(p);
+  const auto format = [&](const base::Control& control, std::string_view tag, auto apply) {
+    wiring.on(control, Event::click, reported(parts, tag, [apply](const MainParts& p) {
+                apply(p.window, p.document);
+                calculate(p);
+              }));
   };
-  wiring.on(parts.window.cboFontSelect, Event::click, reported(parts, "MAIN-cboFontSelect_Click", apply));
-  wiring.on(parts.window.cboFontSize, Event::click, reported(parts, "MAIN-cboFontSize_Click", apply));
-  wiring.on(parts.window.cmdFett, Event::click, reported(parts, "MAIN-cmdFett_Click", apply));
-  wiring.on(parts.window.cmdKursiv, Event::click, reported(parts, "MAIN-cmdKursiv_Click", apply));
-  wiring.on(parts.window.cmdUnterstrichen, Event::click, reported(parts, "MAIN-cmdUnterstrichen_Click", apply));
+  format(parts.window.cboFontSelect, "MAIN-cboFontSelect_Click", editor::applyTypeface);
+  format(parts.window.cboFontSize, "MAIN-cboFontSize_Click", editor::applySize);
+  format(parts.window.cmdFett, "MAIN-cmdFett_Click", editor::applyBold);
+  format(parts.window.cmdKursiv, "MAIN-cmdKursiv_Click", editor::applyItalic);
+  format(parts.window.cmdUnterstrichen, "MAIN-cmdUnterstrichen_Click", editor::applyUnderline);
 }
 
 // Each editing command is followed by the calculation.
