@@ -9,13 +9,13 @@
 #include <fstream>
 #include <string>
 
-#include "app/lifecycle/program.h"
-#include "app/lifecycle/wire.h"
 #include "calc/price_database.h"
+#include "lifecycle/program.h"
+#include "lifecycle/wire.h"
 #include "measure.h"
-#include "ui/main_form.h"
+#include "ui/forms/main_form.h"
 #include "ui/qt_platform.h"
-#include "ui/rich_text_edit.h"
+#include "ui/text/rich_text_edit.h"
 
 namespace {
 
@@ -24,17 +24,17 @@ struct Desk {
   ui::Gate gate;
   ui::Sync sync{gate};
   ui::QtPlatform platform{gate, sync};
-  app::errors::Reporter reporter{platform};
-  app::lifecycle::Program program;
+  errors::Reporter reporter{platform};
+  lifecycle::Program program;
   ui::MainForm form;
-  app::commands::MainParts parts = app::lifecycle::mainParts(program, platform, form.document(), reporter);
+  commands::MainParts parts = lifecycle::mainParts(program, platform, form.document(), reporter);
   ui::BoundWindow& bound;
 
-  Desk() : bound((app::lifecycle::wire(program, parts), form.bindTo(program.main, program.wiring, gate, sync))) {
+  Desk() : bound((lifecycle::wire(program, parts), form.bindTo(program.main, program.wiring, gate, sync))) {
     program.main.cboBuchstabenhöhe.items.assign({"50", "100"});
     program.main.List1.items = {calc::alignedPrice("1.25"), calc::alignedPrice("2.50")};
     program.main.cboBuchstabenhöhe.select(0);
-    app::commands::calculate(parts);
+    commands::calculate(parts);
     sync.open(bound);
     form.show();
     QApplication::processEvents();

@@ -13,10 +13,10 @@
 #include <vector>
 
 #include "measure.h"
-#include "ui/qt_rich_text.h"
-#include "ui/rich_text_edit.h"
-#include "ui/text_entry.h"
-#include "ui/text_index.h"
+#include "ui/text/qt_rich_text.h"
+#include "ui/text/rich_text_edit.h"
+#include "ui/text/text_entry.h"
+#include "ui/text/text_index.h"
 
 namespace {
 

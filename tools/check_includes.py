@@ -11,15 +11,15 @@ import re
 import sys
 
 # From the ground up. Folders of one level do not know each other unless they are FEATURES.
-FEATURES = {"calc", "editor", "pricelists", "options", "planner", "calculator", "backup"}
+FEATURES = {"calc", "editor", "pricelists", "options", "planner", "calculator", "backup", "printing"}
 LEVELS = [
     {"base"},
-    {"app/errors"},
-    {"app/settings"},
-    {"app/frame"},
+    {"errors"},
+    {"settings"},
+    {"frame"},
     FEATURES,
-    {"app/commands"},
-    {"app/lifecycle"},
+    {"commands"},
+    {"lifecycle"},
     {"qtcore"},
     {"ui", "terminal"},
     {"main.cpp"},
@@ -32,11 +32,8 @@ QT_HEADER = re.compile(r"^(Q[A-Za-z]|q[a-z]+\.h$|Qt[A-Z]\w*/)|^ui_\w+\.h$|\.moc$
 
 
 def folder_of(name):
-    """The folder that has a level, such as "app/errors" or "ui"; "main.cpp" stands for itself."""
-    parts = name.split("/")
-    if len(parts) == 1:
-        return name
-    return "/".join(parts[:2]) if parts[0] == "app" and len(parts) > 2 else parts[0]
+    """The folder that has a level, such as "errors" or "ui"; "main.cpp" stands for itself."""
+    return name.split("/")[0]
 
 
 def level_of(folder):

@@ -8,13 +8,13 @@
 namespace calc {
 namespace {
 
-void showOrder(app::frame::MainWindow& window, std::string_view surcharge, std::string_view discount) {
+void showOrder(frame::MainWindow& window, std::string_view surcharge, std::string_view discount) {
   window.lblcboChange1.text = surcharge;
   window.lblcboChange2.text = discount;
 }
 
-void describeChoice(base::ComboBox& box, const app::settings::AdjustmentList& surcharges) {
-  const bool hasSlot = box.selected >= 1 && box.selected <= app::settings::AdjustmentList::kSlots;
+void describeChoice(base::ComboBox& box, const settings::AdjustmentList& surcharges) {
+  const bool hasSlot = box.selected >= 1 && box.selected <= settings::AdjustmentList::kSlots;
   box.toolTip = box.text + " (" + (hasSlot ? surcharges.remark(box.selected) : std::string()) + ")";
 }
 
@@ -39,18 +39,18 @@ std::optional<char32_t> amountKey(char32_t key) {
 
 std::optional<char32_t> signedAmountKey(char32_t key) { return key == U'-' ? key : amountKey(key); }
 
-void fillAdjustments(base::ComboBox& box, const app::settings::AdjustmentList& list) {
+void fillAdjustments(base::ComboBox& box, const settings::AdjustmentList& list) {
   box.clear();
   box.items.add(std::string(kNoAdjustment));
   for (int slot = 1; slot <= list.count; ++slot) box.items.add(list.amount(slot));
 }
 
-void surchargeChosen(app::frame::MainWindow& window, const app::settings::AdjustmentList& surcharges) {
+void surchargeChosen(frame::MainWindow& window, const settings::AdjustmentList& surcharges) {
   showOrder(window, "1", "2");
   describeChoice(window.cboAufpreis, surcharges);
 }
 
-void discountChosen(app::frame::MainWindow& window, const app::settings::AdjustmentList& surcharges) {
+void discountChosen(frame::MainWindow& window, const settings::AdjustmentList& surcharges) {
   showOrder(window, "2", "1");
   describeChoice(window.cboRabatt, surcharges);
 }

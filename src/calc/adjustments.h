@@ -7,10 +7,10 @@
 #include <optional>
 #include <string_view>
 
-#include "app/frame/main_window.h"
-#include "app/settings/settings.h"
 #include "base/controls.h"
 #include "base/currency.h"
+#include "frame/main_window.h"
+#include "settings/settings.h"
 
 namespace calc {
 
@@ -24,12 +24,12 @@ std::optional<char32_t> quantityKey(char32_t key);
 std::optional<char32_t> signedAmountKey(char32_t key);
 
 /// Fills a combo box with "0.00 EUR" and the used entries of its list, empty ones included.
-void fillAdjustments(base::ComboBox& box, const app::settings::AdjustmentList& list);
+void fillAdjustments(base::ComboBox& box, const settings::AdjustmentList& list);
 
 /// What follows the choice of a surcharge or discount: the order labels and the tool tip. Both tool tips take the
 /// remarks of the surcharges.
-void surchargeChosen(app::frame::MainWindow& window, const app::settings::AdjustmentList& surcharges);
-void discountChosen(app::frame::MainWindow& window, const app::settings::AdjustmentList& surcharges);
+void surchargeChosen(frame::MainWindow& window, const settings::AdjustmentList& surcharges);
+void discountChosen(frame::MainWindow& window, const settings::AdjustmentList& surcharges);
 
 /// Recomputes the amount box from its percentage box; an emptied percentage box becomes "0.00".
 void percentageTyped(base::TextBox& percentage, base::TextBox& amount, base::Currency net);

@@ -21,8 +21,8 @@ using base::markText;
 // The values of one run, handed from step to step.
 struct Run {
   const CalcParts& parts;
-  app::frame::MainWindow& window;
-  app::frame::CalcResults& results;
+  frame::MainWindow& window;
+  frame::CalcResults& results;
 
   double pricePerCharacter = 0;
   double surchargeAmount = 0;  // as typed
@@ -121,16 +121,16 @@ void showBalance(Run& run) {
 
 // The sign is read from the text on display, so with a decimal comma −0,50 still counts as zero.
 void colourTotals(Run& run) {
-  app::frame::MainWindow& window = run.window;
+  frame::MainWindow& window = run.window;
   const bool negative = base::leadingNumber(window.lblPreisNettoGesamt.text) < 0;
   for (base::Label* label : {&window.lblPreisNettoGesamt, &window.lblMwstG, &window.lblBruttoGesamt, &window.lblNettoDM,
                              &window.lblMwstG1, &window.lblBruttoDM}) {
-    label->colour = negative ? app::frame::kNegativeTotal : app::frame::kPositiveTotal;
+    label->colour = negative ? frame::kNegativeTotal : frame::kPositiveTotal;
   }
 }
 
 void showCharacterGrossAndHeight(Run& run) {
-  app::frame::MainWindow& window = run.window;
+  frame::MainWindow& window = run.window;
   if (window.cboBuchstabenhöhe.selected > std::numeric_limits<std::int16_t>::max()) {
     throw base::Failure(base::ErrorNumber::overflow, "Überlauf: Höchstens 32.768 Buchstabenhöhen sind wählbar.");
   }
@@ -147,7 +147,7 @@ void enable(std::initializer_list<base::Control*> controls, bool enabled) {
 }
 
 void enableInputs(Run& run) {
-  app::frame::MainWindow& w = run.window;
+  frame::MainWindow& w = run.window;
   const bool hasText = run.results.TextLength >= 1;
   enable({&w.txtProzent, &w.txtRabatt, &w.txtProzentDM, &w.txtRabattDM, &w.cboAufpreis, &w.cboRabatt,
           &w.cmdAufpreisListe, &w.cmdRabatteListe},

@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "app/frame/main_window.h"
-#include "app/settings/settings.h"
 #include "base/money.h"
 #include "base/rich_text.h"
+#include "frame/main_window.h"
+#include "settings/settings.h"
 
 namespace calc {
 
@@ -15,10 +15,10 @@ inline constexpr std::string_view kCalcTag = "MAIN-Calc";
 
 /// What a calculation reads and writes. Texts that are no numbers count as 0.
 struct CalcParts {
-  app::frame::MainWindow& window;
+  frame::MainWindow& window;
   const base::RichText& document;
-  const app::settings::Rates& rates;
-  app::frame::CalcResults& results;
+  const settings::Rates& rates;
+  frame::CalcResults& results;
   base::NumberFormat format;
 };
 

@@ -18,7 +18,7 @@ void wirePicker(base::Wiring& wiring, PickerWindow& picker, base::Platform& plat
   wiring.on(picker.lstAuswahl, base::Event::rightPress, leave);
 }
 
-void fillPicker(PickerWindow& picker, const app::settings::AdjustmentList& list) {
+void fillPicker(PickerWindow& picker, const settings::AdjustmentList& list) {
   base::ItemList& rows = picker.lstAuswahl.items;
   picker.lstAuswahl.clear();
   rows.add("0.00 EUR -> FEST");
@@ -30,7 +30,7 @@ void fillPicker(PickerWindow& picker, const app::settings::AdjustmentList& list)
   }
 }
 
-std::optional<int> pick(PickerWindow& picker, const app::settings::AdjustmentList& list, std::string_view caption,
+std::optional<int> pick(PickerWindow& picker, const settings::AdjustmentList& list, std::string_view caption,
                         int current, base::Platform& platform) {
   fillPicker(picker, list);
   picker.chosenRow.reset();

@@ -4,11 +4,11 @@
 #include <optional>
 #include <string_view>
 
-#include "app/frame/main_window.h"
-#include "app/settings/settings.h"
 #include "base/controls.h"
 #include "base/platform.h"
 #include "base/wiring.h"
+#include "frame/main_window.h"
+#include "settings/settings.h"
 
 namespace calc {
 
@@ -30,10 +30,10 @@ void wirePicker(base::Wiring& wiring, PickerWindow& picker, base::Platform& plat
 
 /// Fills the picker from `list`: "0.00 EUR -> FEST", then the used entries that are not empty; none of them when slot 1
 /// is empty.
-void fillPicker(PickerWindow& picker, const app::settings::AdjustmentList& list);
+void fillPicker(PickerWindow& picker, const settings::AdjustmentList& list);
 
 /// Shows the picker under `caption`, on the row `current` if there is one, and returns the row that was chosen.
-std::optional<int> pick(PickerWindow& picker, const app::settings::AdjustmentList& list, std::string_view caption,
+std::optional<int> pick(PickerWindow& picker, const settings::AdjustmentList& list, std::string_view caption,
                         int current, base::Platform& platform);
 
 }  // namespace calc

@@ -25,7 +25,7 @@ std::string alignedPrice(const std::string& price) {
   return std::string(kPriceWidth - length, ' ') + base::withDecimalPoint(price);
 }
 
-void LoadPriceDatabase(app::frame::MainWindow& window, const std::string& file) {
+void LoadPriceDatabase(frame::MainWindow& window, const std::string& file) {
   window.cboBuchstabenhöhe.clear();
   window.List1.items.clear();
   const base::ProfileFile database = base::ProfileFile::load(file);
@@ -38,7 +38,7 @@ void LoadPriceDatabase(app::frame::MainWindow& window, const std::string& file) 
   }
 }
 
-double priceAt(const app::frame::MainWindow& window, int index) {
+double priceAt(const frame::MainWindow& window, int index) {
   const auto& prices = window.List1.items;
   if (index < 0 || static_cast<std::size_t>(index) >= prices.size()) return 0;
   return base::leadingNumber(prices[static_cast<std::size_t>(index)]);

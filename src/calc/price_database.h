@@ -7,7 +7,7 @@
 
 #include <string>
 
-#include "app/frame/main_window.h"
+#include "frame/main_window.h"
 
 namespace calc {
 
@@ -19,9 +19,9 @@ std::string alignedPrice(const std::string& price);
 
 /// Fills cboBuchstabenhöhe and List1 from the file; a missing file leaves both empty. A price that is too long ends the
 /// load with error 5 behind its cap height; what was loaded before stays.
-void LoadPriceDatabase(app::frame::MainWindow& window, const std::string& file);
+void LoadPriceDatabase(frame::MainWindow& window, const std::string& file);
 
 /// The net price of one character at position `index`; 0 where there is none.
-double priceAt(const app::frame::MainWindow& window, int index);
+double priceAt(const frame::MainWindow& window, int index);
 
 }  // namespace calc

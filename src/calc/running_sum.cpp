@@ -11,11 +11,11 @@ base::Currency sumOfEntries(const base::ItemList& entries) {
   return sum;
 }
 
-void showSum(app::frame::MainWindow& window, const base::NumberFormat& format) {
+void showSum(frame::MainWindow& window, const base::NumberFormat& format) {
   window.lblRCalc.text = base::euroText(sumOfEntries(window.cboCalc.items), format);
 }
 
-void addByHand(app::frame::MainWindow& window, const base::NumberFormat& format) {
+void addByHand(frame::MainWindow& window, const base::NumberFormat& format) {
   const double amount = base::typedAmount(window.txtAddPerHand.text);
   base::Currency::fromDouble(amount);  // what no sum could hold fails here, before it stands in the list
   const std::string entry = entryText(amount);

@@ -6,9 +6,9 @@
 
 #include <string>
 
-#include "app/frame/main_window.h"
 #include "base/currency.h"
 #include "base/money.h"
+#include "frame/main_window.h"
 
 namespace calc {
 
@@ -22,9 +22,9 @@ std::string entryText(Amount amount) {
 base::Currency sumOfEntries(const base::ItemList& entries);
 
 /// Shows the sum of cboCalc in lblRCalc, in the user's locale.
-void showSum(app::frame::MainWindow& window, const base::NumberFormat& format);
+void showSum(frame::MainWindow& window, const base::NumberFormat& format);
 
 /// Adds the amount typed in txtAddPerHand as a new entry unless it is 0, then shows the sum.
-void addByHand(app::frame::MainWindow& window, const base::NumberFormat& format);
+void addByHand(frame::MainWindow& window, const base::NumberFormat& format);
 
 }  // namespace calc

@@ -22,28 +22,28 @@ void showIn(base::ComboBox& box, const std::string& text) {
 
 base::CharFormat startFormat() { return {.family = "Arial", .points = 24}; }
 
-void applyTypeface(const app::frame::MainWindow& window, base::RichText& document) {
+void applyTypeface(const frame::MainWindow& window, base::RichText& document) {
   if (!window.cboFontSelect.text.empty()) document.changeFormat({.family = window.cboFontSelect.text});
 }
 
-void applySize(const app::frame::MainWindow& window, base::RichText& document) {
+void applySize(const frame::MainWindow& window, base::RichText& document) {
   const double points = base::typedAmount(window.cboFontSize.text);
   if (points > 0) document.changeFormat({.points = points});
 }
 
-void applyBold(const app::frame::MainWindow& window, base::RichText& document) {
+void applyBold(const frame::MainWindow& window, base::RichText& document) {
   document.changeFormat({.bold = window.cmdFett.pressed});
 }
 
-void applyItalic(const app::frame::MainWindow& window, base::RichText& document) {
+void applyItalic(const frame::MainWindow& window, base::RichText& document) {
   document.changeFormat({.italic = window.cmdKursiv.pressed});
 }
 
-void applyUnderline(const app::frame::MainWindow& window, base::RichText& document) {
+void applyUnderline(const frame::MainWindow& window, base::RichText& document) {
   document.changeFormat({.underline = window.cmdUnterstrichen.pressed});
 }
 
-void showFormat(app::frame::MainWindow& window, const base::RichText& document) {
+void showFormat(frame::MainWindow& window, const base::RichText& document) {
   const base::CharFormat format = document.format();
   showIn(window.cboFontSelect, format.family);
   showIn(window.cboFontSize, base::pointsText(format.points));

@@ -11,7 +11,7 @@
 namespace terminal {
 namespace {
 
-using app::frame::MainWindow;
+using frame::MainWindow;
 
 struct ResultLabel {
   std::string_view name;
@@ -107,7 +107,7 @@ std::string json(const MainWindow& window) {
     result += jsonText(entry.name) + ": {\"text\": " + jsonText(label.text) +
               ", \"tip\": " + (label.toolTip.empty() ? "null" : jsonText(label.toolTip)) + "}, ";
   }
-  const bool red = window.lblPreisNettoGesamt.colour == app::frame::kNegativeTotal;
+  const bool red = window.lblPreisNettoGesamt.colour == frame::kNegativeTotal;
   return result + "\"rot\": " + (red ? "true" : "false") + "}\n";
 }
 

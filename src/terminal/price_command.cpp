@@ -12,10 +12,6 @@
 #include <utility>
 #include <vector>
 
-#include "app/lifecycle/program.h"
-#include "app/lifecycle/program_directory.h"
-#include "app/lifecycle/wire.h"
-#include "app/settings/settings_files.h"
 #include "base/code_page.h"
 #include "base/files.h"
 #include "base/memory_rich_text.h"
@@ -24,7 +20,11 @@
 #include "base/version.h"
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
+#include "lifecycle/program.h"
+#include "lifecycle/program_directory.h"
+#include "lifecycle/wire.h"
 #include "qtcore/locale.h"
+#include "settings/settings_files.h"
 #include "terminal/arguments.h"
 #include "terminal/output.h"
 #include "terminal/terminal_platform.h"
@@ -32,8 +32,8 @@
 namespace terminal {
 namespace {
 
-using app::commands::MainParts;
 using base::Event;
+using commands::MainParts;
 
 // UTF-8 with or without its mark, UTF-16 with its mark, or else code page 1252.
 std::string decoded(std::string bytes) {
@@ -71,23 +71,22 @@ std::string lettering(const PriceRequest& request, const Streams& streams) {
   return text;
 }
 
-void chooseDirectory(app::settings::Paths& paths, const PriceRequest& request) {
+void chooseDirectory(settings::Paths& paths, const PriceRequest& request) {
   if (request.programDirectory && !std::filesystem::is_directory(*request.programDirectory)) {
     throw WrongArgument("Das Verzeichnis \"" + *request.programDirectory + "\" gibt es nicht.");
   }
-  paths.programDirectory =
-      app::lifecycle::programDirectory(app::lifecycle::directoryCandidates(request.programDirectory)).path;
+  paths.programDirectory = lifecycle::programDirectory(lifecycle::directoryCandidates(request.programDirectory)).path;
 }
 
 // What is wrong with a stored count is told and passed over, as in the window; any other problem ends.
-void readSettings(app::lifecycle::Program& program, const PriceRequest& request, std::ostream& notes) {
-  const app::settings::ReadReport report =
-      app::settings::readSettings(program.paths, program.settings, app::settings::MissingNumber::keepsDefault);
-  for (const app::settings::ReadProblem& problem : report.problems) {
+void readSettings(lifecycle::Program& program, const PriceRequest& request, std::ostream& notes) {
+  const settings::ReadReport report =
+      settings::readSettings(program.paths, program.settings, settings::MissingNumber::keepsDefault);
+  for (const settings::ReadProblem& problem : report.problems) {
     if (problem.number != base::ErrorNumber::indexOutOfRange) throw base::Failure(problem.number, problem.text);
     notes << "tessik: Hinweis: " << problem.text << '\n';
   }
-  app::settings::Rates& rates = program.settings.rates;
+  settings::Rates& rates = program.settings.rates;
   rates.vatPercent = request.vatPercent.value_or(rates.vatPercent);
   rates.unit = request.unit.value_or(rates.unit);
   rates.countBlanks = request.countBlanks.value_or(rates.countBlanks);
@@ -134,7 +133,7 @@ base::Currency pieceAddition(const PriceRequest& request) {
 
 // Everything is set before the first calculation, so that no intermediate price can fail.
 void setInputs(const MainParts& parts, const PriceRequest& request) {
-  app::frame::MainWindow& window = parts.window;
+  frame::MainWindow& window = parts.window;
   if (request.quantity) window.txtStück.text = base::withDecimalPoint(*request.quantity);
   parts.results.pieceAddition = pieceAddition(request);
   window.cboBuchstabenhöhe.select(heightIndex(window.cboBuchstabenhöhe.items, request, parts.platform));
@@ -151,7 +150,7 @@ void type(const base::Wiring& wiring, base::TextBox& box, const std::optional<st
   wiring.fire(box, Event::changed);
 }
 
-void typeAmounts(const base::Wiring& wiring, app::frame::MainWindow& window, const PriceRequest& request) {
+void typeAmounts(const base::Wiring& wiring, frame::MainWindow& window, const PriceRequest& request) {
   type(wiring, window.txtProzent, request.surchargePercentage, "--aufpreis-prozent");
   type(wiring, window.txtProzentDM, request.surchargeAmount, "--aufpreis-betrag");
   type(wiring, window.txtRabatt, request.discountPercentage, "--rabatt-prozent");
@@ -161,12 +160,12 @@ void typeAmounts(const base::Wiring& wiring, app::frame::MainWindow& window, con
 std::string price(const PriceRequest& request, const Streams& streams) {
   TerminalPlatform platform;
   base::MemoryRichText document([&platform](std::string_view text) { return platform.composed(text); });
-  app::errors::Reporter reporter(platform);
-  app::lifecycle::Program program;
+  errors::Reporter reporter(platform);
+  lifecycle::Program program;
   chooseDirectory(program.paths, request);
   readSettings(program, request, streams.error);
-  const MainParts parts = app::lifecycle::mainParts(program, platform, document, reporter);
-  app::lifecycle::wire(program, parts);
+  const MainParts parts = lifecycle::mainParts(program, platform, document, reporter);
+  lifecycle::wire(program, parts);
 
   document.setPlainText(lettering(request, streams));
   loadLists(parts);

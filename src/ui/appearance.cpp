@@ -10,8 +10,8 @@
 #include <QTranslator>
 #include <algorithm>
 
-#include "ui/program_style.h"
 #include "ui/utf8.h"
+#include "ui/widgets/program_style.h"
 
 // In a static library the resources must be asked for, outside any namespace.
 static void initResources() { Q_INIT_RESOURCE(resources); }

@@ -9,20 +9,20 @@
 #include <string>
 #include <string_view>
 
-#include "app/lifecycle/program.h"
-#include "app/lifecycle/program_directory.h"
-#include "app/lifecycle/start_up.h"
-#include "app/lifecycle/wire.h"
+#include "lifecycle/program.h"
+#include "lifecycle/program_directory.h"
+#include "lifecycle/start_up.h"
+#include "lifecycle/wire.h"
 #include "ui/appearance.h"
-#include "ui/dialogs.h"
-#include "ui/main_form.h"
+#include "ui/forms/dialogs.h"
+#include "ui/forms/main_form.h"
 #include "ui/qt_platform.h"
 
 namespace ui {
 namespace {
 
-using app::lifecycle::Program;
-using app::lifecycle::StartUp;
+using lifecycle::Program;
+using lifecycle::StartUp;
 
 constexpr int kExitNotStarted = 1;
 constexpr int kExitWrongArgument = 2;
@@ -63,12 +63,12 @@ class Desktop {
     gate_.setLastResort([this](const std::exception& fault) {
       reporter_.report(base::Failure(base::ErrorNumber::internal, fault.what()));
     });
-    const auto candidates = app::lifecycle::directoryCandidates(options.programDirectory);
-    const auto directory = app::lifecycle::programDirectory(candidates);
+    const auto candidates = lifecycle::directoryCandidates(options.programDirectory);
+    const auto directory = lifecycle::programDirectory(candidates);
     program_.paths.programDirectory = directory.path;
     program_.createsDirectory = directory.isUsersOwn;
     program_.information.directory = directory.path;
-    app::lifecycle::wire(program_, parts_);
+    lifecycle::wire(program_, parts_);
     offerWindows();
     form_.restoreLayout();
     if (options.exitAfterStartUp) form_.whenPainted([] { QCoreApplication::quit(); });
@@ -78,7 +78,7 @@ class Desktop {
   /// The load handler; what follows it runs in the event loop.
   StartUp load() {
     StartUp result = StartUp::ends;
-    gate_.userEvent([&] { result = app::lifecycle::load(program_, parts_); });
+    gate_.userEvent([&] { result = lifecycle::load(program_, parts_); });
     return result;
   }
 
@@ -100,9 +100,9 @@ class Desktop {
   Sync sync_{gate_};
   QtPlatform platform_{gate_, sync_};
   Program program_;
-  app::errors::Reporter reporter_{platform_, program_.information};
+  errors::Reporter reporter_{platform_, program_.information};
   MainForm form_;
-  app::commands::MainParts parts_ = app::lifecycle::mainParts(program_, platform_, form_.document(), reporter_);
+  commands::MainParts parts_ = lifecycle::mainParts(program_, platform_, form_.document(), reporter_);
   BoundWindow& bound_ = form_.bindTo(program_.main, program_.wiring, gate_, sync_);
 };
 

@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "base/platform.h"
-#include "ui/gate.h"
-#include "ui/sync.h"
+#include "ui/binding/gate.h"
+#include "ui/binding/sync.h"
 
 class QWidget;
 

@@ -9,8 +9,8 @@
 
 namespace {
 
-using app::frame::MainWindow;
 using base::Event;
+using frame::MainWindow;
 using support::Desk;
 
 // 80 characters at 1 EUR: the net price is 80.
@@ -70,8 +70,8 @@ TEST(Adjustments, EnterGoesRoundTheFourBoxes) {
   }
 }
 
-app::settings::AdjustmentList entries(std::initializer_list<std::pair<const char*, const char*>> rows) {
-  app::settings::AdjustmentList list;
+settings::AdjustmentList entries(std::initializer_list<std::pair<const char*, const char*>> rows) {
+  settings::AdjustmentList list;
   std::size_t slot = 0;
   for (const auto& [amount, remark] : rows) {
     list.amounts.at(slot) = amount;
@@ -83,7 +83,7 @@ app::settings::AdjustmentList entries(std::initializer_list<std::pair<const char
 
 TEST(Adjustments, TheToolTipOfBothListsNamesTheSurchargesRemark) {
   PricedDesk desk;
-  app::settings::Adjustments& lists = desk.program.settings.adjustments;
+  settings::Adjustments& lists = desk.program.settings.adjustments;
   lists.surcharges = entries({{"10 %", "Eilzuschlag"}});
   lists.discounts = entries({{"5.00 EUR", "Stammkunde"}, {"", ""}});
   calc::fillAdjustments(desk.window.cboAufpreis, lists.surcharges);
@@ -101,7 +101,7 @@ TEST(Adjustments, TheToolTipOfBothListsNamesTheSurchargesRemark) {
 
 TEST(Adjustments, ThePickerSelectsTheSameRowOfTheComboBox) {
   PricedDesk desk;
-  app::settings::AdjustmentList& surcharges = desk.program.settings.adjustments.surcharges;
+  settings::AdjustmentList& surcharges = desk.program.settings.adjustments.surcharges;
   surcharges = entries({{"10 %", "Eilzuschlag"}, {"", "leer"}, {"5.00 EUR", ""}});
   calc::fillAdjustments(desk.window.cboAufpreis, surcharges);
   calc::PickerWindow& picker = desk.program.picker;

@@ -11,8 +11,8 @@
 
 namespace {
 
-using app::frame::MainWindow;
 using base::Currency;
+using frame::MainWindow;
 using support::Desk;
 
 TEST(Calc, TheWholeOrderInEveryLabel) {
@@ -130,10 +130,10 @@ TEST(Calc, ColoursTheTotalsByTheSignOnDisplay) {
     std::string separator;
     base::Rgb colour;
   };
-  const Row rows[] = {{"100.50", ",", app::frame::kPositiveTotal},
-                      {"101.00", ",", app::frame::kNegativeTotal},
-                      {"100.50", ".", app::frame::kNegativeTotal},
-                      {"100.00", ".", app::frame::kPositiveTotal}};
+  const Row rows[] = {{"100.50", ",", frame::kPositiveTotal},
+                      {"101.00", ",", frame::kNegativeTotal},
+                      {"100.50", ".", frame::kNegativeTotal},
+                      {"100.00", ".", frame::kPositiveTotal}};
   for (const Row& row : rows) {
     Desk desk;
     desk.platform.format.decimalSeparator = row.separator;

@@ -41,7 +41,7 @@ TEST(PriceDatabase, LoadsWhatIsThere) {
   const support::TemporaryDirectory directory;
   for (const Row& row : priceFiles()) {
     directory.write("Tessik.pdb", row.file);
-    app::frame::MainWindow window;
+    frame::MainWindow window;
     calc::LoadPriceDatabase(window, directory.path("Tessik.pdb"));
     const auto& items = window.cboBuchstabenhöhe.items;
     EXPECT_EQ(std::vector<std::string>(items.begin(), items.end()), row.heights) << row.name;
@@ -56,7 +56,7 @@ TEST(PriceDatabase, ATooLongPriceEndsTheLoadAndKeepsWhatCameBefore) {
   const support::TemporaryDirectory directory;
   directory.write("Tessik.pdb",
                   "[Versalien]\n0=10\n1=20\n2=30\n[Preise]\n0=1234567890123,45\n1=12345678901234,56\n2=3\n");
-  app::frame::MainWindow window;
+  frame::MainWindow window;
   try {
     calc::LoadPriceDatabase(window, directory.path("Tessik.pdb"));
     FAIL() << "a price of 17 characters was taken";
@@ -71,7 +71,7 @@ TEST(PriceDatabase, ATooLongPriceEndsTheLoadAndKeepsWhatCameBefore) {
 
 TEST(PriceDatabase, AMissingFileLeavesTheListsEmptyAndADirectoryIsAFailure) {
   const support::TemporaryDirectory directory;
-  app::frame::MainWindow window;
+  frame::MainWindow window;
   window.cboBuchstabenhöhe.items.add("alt");
   window.List1.items.emplace_back("alt");
   calc::LoadPriceDatabase(window, directory.path("Tessik.pdb"));

@@ -9,7 +9,7 @@
 
 namespace {
 
-using app::frame::MainWindow;
+using frame::MainWindow;
 using support::Desk;
 
 struct LetteringDesk : Desk {

@@ -13,7 +13,7 @@ void Desk::offerHeights(const std::vector<std::pair<std::string, std::string>>& 
     window.List1.items.push_back(calc::alignedPrice(price));
   }
   window.cboBuchstabenhöhe.select(0);
-  app::commands::calculate(parts);
+  commands::calculate(parts);
 }
 
 void Desk::write(std::string_view lettering) {

@@ -4,15 +4,15 @@
 #include <string>
 #include <string_view>
 
-#include "app/lifecycle/program.h"
-#include "app/lifecycle/wire.h"
 #include "base/memory_rich_text.h"
+#include "lifecycle/program.h"
+#include "lifecycle/wire.h"
 #include "support/scripted_platform.h"
 
 namespace support {
 
 struct Desk {
-  Desk() { app::lifecycle::wire(program, parts); }
+  Desk() { lifecycle::wire(program, parts); }
 
   /// Lets the program offer these heights at these prices and selects the first.
   void offerHeights(const std::vector<std::pair<std::string, std::string>>& heightsAndPrices);
@@ -25,10 +25,10 @@ struct Desk {
 
   ScriptedPlatform platform;
   base::MemoryRichText document{};
-  app::errors::Reporter reporter{platform};
-  app::lifecycle::Program program;
-  app::commands::MainParts parts = app::lifecycle::mainParts(program, platform, document, reporter);
-  app::frame::MainWindow& window = program.main;
+  errors::Reporter reporter{platform};
+  lifecycle::Program program;
+  commands::MainParts parts = lifecycle::mainParts(program, platform, document, reporter);
+  frame::MainWindow& window = program.main;
 };
 
 }  // namespace support

@@ -6,14 +6,14 @@
 #include <filesystem>
 #include <utility>
 
-#include "app/lifecycle/wire.h"
+#include "lifecycle/wire.h"
 
 namespace support {
 
 Session::Session(const TemporaryDirectory& directory) {
   program.paths.programDirectory = directory.path("");
   program.information.directory = directory.path("");
-  app::lifecycle::wire(program, parts);
+  lifecycle::wire(program, parts);
 }
 
 void Session::expectFailure(std::string text) {
@@ -21,7 +21,7 @@ void Session::expectFailure(std::string text) {
 }
 
 void Session::start() {
-  ASSERT_EQ(load(), app::lifecycle::StartUp::goesOn);
+  ASSERT_EQ(load(), lifecycle::StartUp::goesOn);
   ASSERT_TRUE(program.main.tmrLoad.running);
   program.wiring.fire(program.main.tmrLoad, base::Event::tick);
 }

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "app/lifecycle/program.h"
-#include "app/lifecycle/start_up.h"
 #include "base/memory_rich_text.h"
+#include "lifecycle/program.h"
+#include "lifecycle/start_up.h"
 #include "support/scripted_platform.h"
 #include "support/temporary_directory.h"
 
@@ -21,7 +21,7 @@ struct Session {
   /// Expects that a failure is shown with this text.
   void expectFailure(std::string text);
   /// The load handler.
-  app::lifecycle::StartUp load() { return app::lifecycle::load(program, parts); }
+  lifecycle::StartUp load() { return lifecycle::load(program, parts); }
   /// The load handler and, as it lets the program go on, what tmrLoad does.
   void start();
   /// The main window closes.
@@ -29,10 +29,10 @@ struct Session {
 
   ScriptedPlatform platform;
   base::MemoryRichText document{};
-  app::lifecycle::Program program;
-  app::errors::Reporter reporter{platform, program.information};
-  app::commands::MainParts parts = app::lifecycle::mainParts(program, platform, document, reporter);
-  app::frame::MainWindow& window = program.main;
+  lifecycle::Program program;
+  errors::Reporter reporter{platform, program.information};
+  commands::MainParts parts = lifecycle::mainParts(program, platform, document, reporter);
+  frame::MainWindow& window = program.main;
 };
 
 /// The names in a directory with the bytes of each file; a directory counts as an empty file.

@@ -29,25 +29,25 @@ def include(*names):
 SOUND = {
     "base/text.h": "#include <string>\n",
     "base/text.cpp": include("base/text.h"),
-    "app/errors/reporting.h": include("base/text.h"),
-    "calc/calc.h": include("app/errors/reporting.h"),
+    "errors/reporting.h": include("base/text.h"),
+    "calc/calc.h": include("errors/reporting.h"),
     "editor/document.h": include("calc/calc.h"),
     "calc/note.h": include("editor/document.h"),
-    "app/commands/wiring.h": include("calc/calc.h", "editor/document.h"),
-    "ui/window.cpp": "#include <QWidget>\n" + include("ui_window.h", "app/commands/wiring.h"),
+    "commands/wiring.h": include("calc/calc.h", "editor/document.h"),
+    "ui/window.cpp": "#include <QWidget>\n" + include("ui_window.h", "commands/wiring.h"),
     "terminal/output.h": include("calc/calc.h"),
     "main.cpp": "#include <QApplication>\n" + include("terminal/output.h"),
 }
 
 WRONG_INCLUDES = [
     ("an include that goes up", {"base/money.h": include("calc/calc.h")}, "stands above"),
-    ("one that goes up within app", {"app/errors/log.h": include("app/commands/wiring.h")}, "stands above"),
+    ("one that goes up in the logic", {"errors/log.h": include("commands/wiring.h")}, "stands above"),
     ("the screen in the terminal", {"terminal/run.cpp": include("ui/window.h"), "ui/window.h": ""}, "know each other"),
     ("the widgets in the logic", {"calc/show.cpp": "#  include <QLabel>\n"}, "belongs to Qt"),
     ("a Qt module in the logic", {"calc/show.cpp": "#include <QtCore/QString>\n"}, "belongs to Qt"),
     ("a form in the logic", {"editor/show.cpp": include("ui_window.h")}, "belongs to Qt"),
     ("a folder nobody planned", {"helper/misc.h": ""}, "no level"),
-    ("a file of no folder in app", {"app/misc.h": ""}, "no level"),
+    ("a file of no folder", {"misc.h": ""}, "no level"),
     ("a header that is not there", {"calc/show.cpp": include("calc/gone.h")}, "there is no calc/gone.h"),
     (
         "a cycle of two headers, one of them named from beside it",

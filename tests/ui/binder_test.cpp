@@ -1,5 +1,5 @@
 // The binder: what it ties, and which faults of a form it names.
-#include "ui/binder.h"
+#include "ui/binding/binder.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "sample_window.h"
-#include "ui/input_guard.h"
+#include "ui/binding/input_guard.h"
 
 namespace ui {
 namespace {

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "sample_window.h"
-#include "ui/binding_list.h"
+#include "ui/binding/binding_list.h"
 
 namespace ui {
 namespace {

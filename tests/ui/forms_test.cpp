@@ -13,19 +13,19 @@
 #include <string>
 #include <vector>
 
-#include "app/frame/main_window.h"
-#include "app/lifecycle/loading_window.h"
 #include "calc/picker.h"
-#include "ui/binder.h"
-#include "ui/dialogs.h"
-#include "ui/main_form.h"
+#include "frame/main_window.h"
+#include "lifecycle/loading_window.h"
+#include "ui/binding/binder.h"
+#include "ui/forms/dialogs.h"
+#include "ui/forms/main_form.h"
 
 namespace {
 
 const std::vector<std::string> kNone;
 
 TEST(Forms, TheMainWindowDrawsEveryControlAndNothingElse) {
-  app::frame::MainWindow window;
+  frame::MainWindow window;
   ui::MainForm form;
   EXPECT_EQ(ui::mismatches(window, form, {"rtfText", "frmMain"}), kNone);
 }
@@ -35,7 +35,7 @@ TEST(Forms, TheDialogsDrawEveryControlAndNothingElse) {
   const std::unique_ptr<QDialog> pickerForm(ui::makePicker(nullptr));
   EXPECT_EQ(ui::mismatches(picker, *pickerForm), kNone);
 
-  app::lifecycle::LoadingWindow loading;
+  lifecycle::LoadingWindow loading;
   const std::unique_ptr<QDialog> loadingForm(ui::makeLoadingScreen(nullptr));
   EXPECT_EQ(ui::mismatches(loading, *loadingForm), kNone);
 }

@@ -1,5 +1,5 @@
 // The gate: what gets in while a procedure runs, and what follows it.
-#include "ui/gate.h"
+#include "ui/binding/gate.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The progress bar: its share of the range, and what it fills of the screen.
-#include "ui/gradient_progress_bar.h"
+#include "ui/widgets/gradient_progress_bar.h"
 
 #include <gtest/gtest.h>
 

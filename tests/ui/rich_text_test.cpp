@@ -14,8 +14,8 @@
 
 #include "base/text.h"
 #include "support/rich_text_contract.h"
-#include "ui/qt_rich_text.h"
-#include "ui/rich_text_edit.h"
+#include "ui/text/qt_rich_text.h"
+#include "ui/text/rich_text_edit.h"
 #include "ui/utf8.h"
 
 namespace support {

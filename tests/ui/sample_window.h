@@ -23,8 +23,8 @@
 
 #include "base/controls.h"
 #include "base/wiring.h"
-#include "ui/binder.h"
-#include "ui/program_style.h"
+#include "ui/binding/binder.h"
+#include "ui/widgets/program_style.h"
 
 namespace ui {
 

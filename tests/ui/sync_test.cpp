@@ -1,5 +1,5 @@
 // The sync pass: what it writes, what it leaves alone, and what it undoes.
-#include "ui/sync.h"
+#include "ui/binding/sync.h"
 
 #include <gtest/gtest.h>
 

@@ -10,7 +10,7 @@
 #include <string>
 
 #include "sample_window.h"
-#include "ui/inserted_piece.h"
+#include "ui/binding/inserted_piece.h"
 #include "ui/utf8.h"
 
 namespace ui {

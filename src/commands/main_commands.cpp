@@ -1,0 +1,188 @@
+// The main window's wiring.
+#include "commands/main_commands.h"
+
+#include "base/version.h"
+#include "calc/adjustments.h"
+#include "calc/price_database.h"
+#include "calc/running_sum.h"
+#include "editor/character_format.h"
+#include "editor/editing.h"
+
+namespace commands {
+namespace {
+
+using base::Event;
+using base::Wiring;
+
+// A procedure that runs under its tag and reports its failure.
+template <typename Procedure>
+Wiring::Procedure reported(const MainParts& parts, std::string_view tag, Procedure procedure) {
+  return [parts, tag, procedure] { errors::reporting(parts.reporter, tag, [&] { procedure(parts); }); };
+}
+
+void wireDocument(Wiring& wiring, const MainParts& parts) {
+  for (const Event event : {Event::changed, Event::selected, Event::released}) {
+    wiring.on(parts.document, event, reported(parts, calc::kCalcTag, [](const MainParts& p) {
+                editor::showFormat(p.window, p.document);
+                calculate(p);
+              }));
+  }
+}
+
+void wireFormat(Wiring& wiring, const MainParts& parts) {
+  const auto format = [&](const base::Control& control, std::string_view tag, auto apply) {
+    wiring.on(control, Event::click, reported(parts, tag, [apply](const MainParts& p) {
+                apply(p.window, p.document);
+                calculate(p);
+              }));
+  };
+  format(parts.window.cboFontSelect, "MAIN-cboFontSelect_Click", editor::applyTypeface);
+  format(parts.window.cboFontSize, "MAIN-cboFontSize_Click", editor::applySize);
+  format(parts.window.cmdFett, "MAIN-cmdFett_Click", editor::applyBold);
+  format(parts.window.cmdKursiv, "MAIN-cmdKursiv_Click", editor::applyItalic);
+  format(parts.window.cmdUnterstrichen, "MAIN-cmdUnterstrichen_Click", editor::applyUnderline);
+}
+
+// Each editing command is followed by the calculation.
+void wireEditing(Wiring& wiring, const MainParts& parts) {
+  const auto edit = [&](const base::MenuEntry& entry, std::string_view tag, auto command) {
+    wiring.on(entry, Event::click, reported(parts, tag, [command](const MainParts& p) {
+                command(p);
+                editor::showFormat(p.window, p.document);
+                calculate(p);
+              }));
+  };
+  const auto& window = parts.window;
+  edit(window.mnuCut, "MAIN-mnuCut_Click", [](const MainParts& p) { editor::cutSelection(p.document, p.platform); });
+  edit(window.mnuCopy, "MAIN-mnuCopy_Click", [](const MainParts& p) { editor::copySelection(p.document, p.platform); });
+  edit(window.mnuPaste, "MAIN-mnuPaste_Click", [](const MainParts& p) { editor::pasteText(p.document, p.platform); });
+  edit(window.mnuDelete, "MAIN-mnuDelete_Click", [](const MainParts& p) { editor::deleteSelection(p.document); });
+  edit(window.mnuMarkAll, "MAIN-mnuMarkAll_Click", [](const MainParts& p) { editor::selectAll(p.document); });
+}
+
+void wireProgram(Wiring& wiring, const MainParts& parts) {
+  wiring.on(parts.window.mnuExit, Event::click,
+            reported(parts, "MAIN-mnuExit_Click", [](const MainParts& p) { p.platform.close(p.window); }));
+  wiring.on(parts.window.mnuInfo, Event::click, reported(parts, "MAIN-mnuInfo_Click", [](const MainParts& p) {
+              p.platform.messageBox(
+                  {.text = base::versionLine() +
+                           "\r\nKalkulation für Folienbeschriftungen\r\n\r\nDaten: " + p.paths.programDirectory,
+                   .title = "Über Tessik",
+                   .icon = base::MessageIcon::information});
+            }));
+}
+
+void wireHeightAndQuantity(Wiring& wiring, const MainParts& parts) {
+  wiring.on(parts.window.cboBuchstabenhöhe, Event::click, reported(parts, "MAIN-cboBuchstabenhöhe_Click", calculate));
+  wiring.on(parts.window.cboBuchstabenhöhe, Event::keyOther,
+            reported(parts, "MAIN-cboBuchstabenhöhe_KeyUp", calculate));
+  wiring.filter(parts.window.txtStück, calc::quantityKey);
+  wiring.on(parts.window.txtStück, Event::changed, reported(parts, "MAIN-txtStück", calculate));
+}
+
+void wireAdjustmentLists(Wiring& wiring, const MainParts& parts) {
+  wiring.on(parts.window.cboAufpreis, Event::click, reported(parts, "MAIN-cboAufpreis_Click", [](const MainParts& p) {
+              selectSurcharge(p, p.window.cboAufpreis.selected);
+            }));
+  wiring.on(parts.window.cboRabatt, Event::click, reported(parts, "MAIN-cboRabatt_Click", [](const MainParts& p) {
+              selectDiscount(p, p.window.cboRabatt.selected);
+            }));
+  wiring.on(parts.window.cmdAufpreisListe, Event::click,
+            reported(parts, "MAIN-cmdAufpreisliste_Click", [](const MainParts& p) {
+              const auto row = calc::pick(p.picker, p.settings.adjustments.surcharges, "Auswahl Aufpreise",
+                                          p.window.cboAufpreis.selected, p.platform);
+              if (row) selectSurcharge(p, *row);
+            }));
+  wiring.on(parts.window.cmdRabatteListe, Event::click,
+            reported(parts, "MAIN-cmdRabatteListe_Click", [](const MainParts& p) {
+              const auto row = calc::pick(p.picker, p.settings.adjustments.discounts, "Auswahl Rabatte",
+                                          p.window.cboRabatt.selected, p.platform);
+              if (row) selectDiscount(p, *row);
+            }));
+}
+
+// One of the four boxes: what typing recomputes, and where Enter goes.
+struct AmountBox {
+  base::TextBox frame::MainWindow::*box;
+  base::TextBox frame::MainWindow::*partner;
+  base::TextBox frame::MainWindow::*next;
+  void (*typed)(base::TextBox& box, base::TextBox& partner, base::Currency net);
+  std::string_view tag;
+};
+
+constexpr AmountBox kAmountBoxes[] = {
+    {&frame::MainWindow::txtProzent, &frame::MainWindow::txtProzentDM, &frame::MainWindow::txtRabatt,
+     calc::percentageTyped, "MAIN-txtProzent"},
+    {&frame::MainWindow::txtRabatt, &frame::MainWindow::txtRabattDM, &frame::MainWindow::txtProzentDM,
+     calc::percentageTyped, "MAIN-txtRabatt"},
+    {&frame::MainWindow::txtProzentDM, &frame::MainWindow::txtProzent, &frame::MainWindow::txtRabattDM,
+     calc::amountTyped, "MAIN-txtProzentDM"},
+    {&frame::MainWindow::txtRabattDM, &frame::MainWindow::txtRabatt, &frame::MainWindow::txtProzent, calc::amountTyped,
+     "MAIN-txtRabattDM"},
+};
+
+void wireAmountBoxes(Wiring& wiring, const MainParts& parts) {
+  for (const AmountBox& entry : kAmountBoxes) {
+    base::TextBox& box = parts.window.*entry.box;
+    base::TextBox& next = parts.window.*entry.next;
+    wiring.filter(box, calc::amountKey);
+    wiring.on(box, Event::changed, reported(parts, entry.tag, [&entry](const MainParts& p) {
+                entry.typed(p.window.*entry.box, p.window.*entry.partner, p.results.NetPrice);
+                calculate(p);
+              }));
+    wiring.on(box, Event::keyEnter, [&next] {
+      next.wantsFocus = true;
+      next.wantsSelectAll = true;
+    });
+  }
+}
+
+void wireAddByHand(Wiring& wiring, const MainParts& parts) {
+  const auto add = reported(parts, "MAIN-cmdAddPerHand",
+                            [](const MainParts& p) { calc::addByHand(p.window, p.platform.numberFormat()); });
+  wiring.on(parts.window.cmdAddPerHand, Event::click, add);
+  wiring.filter(parts.window.txtAddPerHand, calc::signedAmountKey);
+  wiring.on(parts.window.txtAddPerHand, Event::keyEnter, add);
+  wiring.on(parts.window.txtAddPerHand, Event::changed, reported(parts, "MAIN-txtAddPerHand", calculate));
+}
+
+}  // namespace
+
+calc::CalcParts calcParts(const MainParts& parts) {
+  return {.window = parts.window,
+          .document = parts.document,
+          .rates = parts.settings.rates,
+          .results = parts.results,
+          .format = parts.platform.numberFormat()};
+}
+
+void calculate(const MainParts& parts) { calc::Calc(calcParts(parts)); }
+
+void selectSurcharge(const MainParts& parts, int index) {
+  parts.window.cboAufpreis.select(index);
+  calc::surchargeChosen(parts.window, parts.settings.adjustments.surcharges);
+  calculate(parts);
+}
+
+void selectDiscount(const MainParts& parts, int index) {
+  parts.window.cboRabatt.select(index);
+  calc::discountChosen(parts.window, parts.settings.adjustments.surcharges);
+  calculate(parts);
+}
+
+void EditDatabase(const MainParts& parts) {
+  base::tagged("MAIN-EditDatabase", [&parts] { calc::LoadPriceDatabase(parts.window, parts.paths.priceDatabase()); });
+}
+
+void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
+  wireDocument(wiring, parts);
+  wireFormat(wiring, parts);
+  wireEditing(wiring, parts);
+  wireProgram(wiring, parts);
+  wireHeightAndQuantity(wiring, parts);
+  wireAdjustmentLists(wiring, parts);
+  wireAmountBoxes(wiring, parts);
+  wireAddByHand(wiring, parts);
+}
+
+}  // namespace commands

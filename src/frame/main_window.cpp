@@ -1,0 +1,20 @@
+// What the main window shows before anything is typed.
+#include "frame/main_window.h"
+
+namespace frame {
+
+MainWindow::MainWindow() : Window("frmMain") {
+  txtStück.text = "1";
+  for (base::TextBox* box : {&txtProzent, &txtRabatt, &txtProzentDM, &txtRabattDM}) box->text = "0.00";
+  lblcboChange1.text = "1";
+  lblcboChange2.text = "2";
+  for (base::Label* label :
+       {&lblPreisNettoGesamt, &lblMwstG, &lblBruttoGesamt, &lblNettoDM, &lblMwstG1, &lblBruttoDM}) {
+    label->colour = kPositiveTotal;
+  }
+  lblNettoDM.text = "Netto gesamt";
+  lblBruttoDM.text = "Brutto gesamt";
+  lblRCalc.text = "0.00 EUR";
+}
+
+}  // namespace frame

@@ -1,0 +1,96 @@
+// The main window's controls under their own names, and the results that the calculation shares.
+#pragma once
+
+#include <cstdint>
+
+#include "base/controls.h"
+#include "base/currency.h"
+
+namespace frame {
+
+// clang-format off
+#define TESSIK_MAIN_WINDOW_CONTROLS(CONTROL)                                                   \
+  /* the lettering: height, quantity, typeface */                                              \
+  CONTROL(base::ComboBox, cboFontSelect)                                                       \
+  CONTROL(base::ComboBox, cboFontSize)                                                         \
+  CONTROL(base::ToggleButton, cmdFett)                                                         \
+  CONTROL(base::ToggleButton, cmdKursiv)                                                       \
+  CONTROL(base::ToggleButton, cmdUnterstrichen)                                                \
+  CONTROL(base::Label, lblTH)                                                                  \
+  CONTROL(base::ComboBox, cboBuchstabenhöhe)                                                   \
+  CONTROL(base::HiddenList, List1)               /* the prices of cboBuchstabenhöhe, by position */ \
+  CONTROL(base::TextBox, txtStück)                                                             \
+  /* surcharges and discounts */                                                               \
+  CONTROL(base::ComboBox, cboAufpreis)                                                         \
+  CONTROL(base::ComboBox, cboRabatt)                                                           \
+  CONTROL(base::Button, cmdAufpreisListe)                                                      \
+  CONTROL(base::Button, cmdRabatteListe)                                                       \
+  CONTROL(base::Label, lblcboChange1)                                                          \
+  CONTROL(base::Label, lblcboChange2)                                                          \
+  CONTROL(base::TextBox, txtProzent)                                                           \
+  CONTROL(base::TextBox, txtRabatt)                                                            \
+  CONTROL(base::TextBox, txtProzentDM)                                                         \
+  CONTROL(base::TextBox, txtRabattDM)                                                          \
+  /* the totals */                                                                             \
+  CONTROL(base::Label, lblNettoDM)                                                             \
+  CONTROL(base::Label, lblPreisNettoGesamt)                                                    \
+  CONTROL(base::Label, lblMwstG1)                                                              \
+  CONTROL(base::Label, lblMwstG)                                                               \
+  CONTROL(base::Label, lblBruttoDM)                                                            \
+  CONTROL(base::Label, lblBruttoGesamt)                                                        \
+  /* the single results */                                                                     \
+  CONTROL(base::Label, lblTextlenBox)                                                          \
+  CONTROL(base::Label, lbltexthöhe)                                                            \
+  CONTROL(base::Label, lblEinzelpreisZeichen)                                                  \
+  CONTROL(base::Label, lblEinzelBrutto)                                                        \
+  CONTROL(base::Label, lblStückp)                                                              \
+  CONTROL(base::Label, lblPreisNetto)                                                          \
+  CONTROL(base::Label, lblAufpreisSolo)                                                        \
+  CONTROL(base::Label, lblPNettoAuf)                                                           \
+  CONTROL(base::Label, lblMwstSatz)                                                            \
+  CONTROL(base::Label, lblMwstAnteil)                                                          \
+  CONTROL(base::Label, lblEURO)                  /* net, in marks */                           \
+  CONTROL(base::Label, lblEURObrutto)            /* gross, in marks */                         \
+  /* the running sum */                                                                        \
+  CONTROL(base::ListBox, cboCalc)                                                              \
+  CONTROL(base::Label, lblRCalc)                                                               \
+  CONTROL(base::TextBox, txtAddPerHand)                                                        \
+  CONTROL(base::Button, cmdAddPerHand)                                                         \
+  /* the menus */                                                                              \
+  CONTROL(base::MenuEntry, mnuLastFile)                                                        \
+  CONTROL(base::MenuEntry, mnuExit)                                                            \
+  CONTROL(base::MenuEntry, mnuCut)                                                             \
+  CONTROL(base::MenuEntry, mnuCopy)                                                            \
+  CONTROL(base::MenuEntry, mnuPaste)                                                           \
+  CONTROL(base::MenuEntry, mnuDelete)                                                          \
+  CONTROL(base::MenuEntry, mnuMarkAll)                                                         \
+  CONTROL(base::MenuEntry, mnuInfo)                                                            \
+  /* the status line */                                                                        \
+  CONTROL(base::Label, lblZeile)                 /* format at the caret, line and column */    \
+  CONTROL(base::Label, lblZusatz)                /* the piece addition, while there is one */  \
+  CONTROL(base::Label, lblHinweis)               /* what the program has to tell by the way */ \
+  CONTROL(base::Timer, tmrLoad)
+// clang-format on
+
+/// The colours of the totals, which stand on black.
+inline constexpr base::Rgb kNegativeTotal = 0xFF0000;
+inline constexpr base::Rgb kPositiveTotal = 0x00C000;
+
+struct MainWindow : base::Window {
+  MainWindow();
+
+  TESSIK_CONTROLS(TESSIK_MAIN_WINDOW_CONTROLS)
+};
+
+/// What the calculation leaves behind for the running sum, the offer note and the printout.
+// The names are those of the program's own vocabulary, hence the capitals.
+struct CalcResults {
+  std::int32_t TextLength = 0;            // priced characters
+  base::Currency NetPrice;                // of the whole order, before surcharges and discounts
+  base::Currency NetTotal;                // after them
+  base::Currency SurchargeBalance;        // all surcharges minus all discounts
+  std::int16_t SelectedHeightIndex = -1;  // cap height of the last run
+  base::Currency pieceAddition;           // set by the running sum, added to the price of one piece
+};
+
+}  // namespace frame

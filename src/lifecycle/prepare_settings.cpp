@@ -1,0 +1,121 @@
+// The load handler's part that sees to the settings.
+#include "lifecycle/prepare_settings.h"
+
+#include <string>
+
+#include "base/files.h"
+#include "lifecycle/first_use.h"
+#include "settings/user_keys.h"
+
+namespace lifecycle {
+namespace {
+
+using settings::File;
+
+void tellCopy(frame::MainWindow& window, const std::string& copy) {
+  const auto append = [](std::string& text, const char* opening, const std::string& what) {
+    text += text.empty() ? opening : ", ";
+    text += what;
+  };
+  append(window.lblHinweis.text, "Sicherung: ", copy.substr(copy.find_last_of("/\\") + 1));
+  append(window.lblHinweis.toolTip, "Die bisherigen Einstellungen liegen in ", copy);
+}
+
+void keepCopy(Program& program, File file) {
+  if (const auto copy = settings::keepNumberedCopy(pathOf(program.paths, file))) tellCopy(program.main, *copy);
+}
+
+// Keys that have no default of a first start, such as the company address, stay.
+void resetKeys(settings::UserKeys& keys) {
+  const settings::UserKeys defaults;
+  keys.version = settings::kDefaultsVersion;
+  keys.windowState = defaults.windowState;
+  keys.lastFile = defaults.lastFile;
+  keys.beeper = defaults.beeper;
+}
+
+// Defaults over files of another installation: what they hold is kept beside them.
+void writeFirstStart(Program& program, base::Platform& platform) {
+  const bool isNew = !base::FileExists(pathOf(program.paths, File::general));
+  // A store that refuses would make every start a first one; then the files stay as they are.
+  if (!isNew) platform.saveUserSettings({{"RGF", program.settings.user.undoDepth}});
+  keepCopy(program, File::lists);
+  keepCopy(program, File::general);
+  settings::writeDefaults(program.paths, program.settings, File::lists);
+  if (isNew) {
+    settings::writeDefaults(program.paths, program.settings, File::general);
+  } else {
+    settings::writeSettings(program.paths, program.settings, File::general);
+  }
+  settings::writeFirstStartKeys(platform);
+  resetKeys(program.settings.user);
+}
+
+// Nobody is asked about the files of a directory that the program has just made itself.
+void writeNewDirectory(const Program& program) {
+  settings::writeDefaults(program.paths, program.settings, File::general);
+  settings::writeDefaults(program.paths, program.settings, File::lists);
+}
+
+bool mayCreate(base::Platform& platform, const std::string& what, const std::string& name) {
+  const base::Message question{
+      .text = what + " nicht vorhanden oder defekt!\r            Soll eine neue " + name + " erstell werden?",
+      .title = "Fehler",
+      .icon = base::MessageIcon::exclamation,
+      .buttons = base::MessageButtons::yesNo};
+  return platform.messageBox(question) == base::MessageAnswer::yes;
+}
+
+StartUp createIfMissing(Program& program, const commands::MainParts& parts, File file) {
+  if (base::FileExists(pathOf(program.paths, file))) return StartUp::goesOn;
+  parts.platform.hide(program.loading);
+  const bool may = file == File::general
+                       ? mayCreate(parts.platform, "Einstellungs-Initialisierungsdatei", "Ostrowerk.ini")
+                       : mayCreate(parts.platform, "Rabatte Initialisierungsdatei", "Tessik.ini");
+  if (!may) return StartUp::ends;
+  errors::reporting(parts.reporter, kLoadTag, [&] { settings::writeDefaults(program.paths, program.settings, file); });
+  parts.platform.show(program.loading);
+  return StartUp::goesOn;
+}
+
+// One message for all that could not be read; the defaults stand in for it.
+void read(Program& program) {
+  settings::ReadReport& report = program.readReport;
+  report = settings::readSettings(program.paths, program.settings, settings::MissingNumber::isProblem);
+  program.settings.reminderSound = settings::wholeSoundPath(program.settings.reminderSound, program.settings.user);
+  if (!report.generalIsWhole) keepCopy(program, File::general);
+  if (!report.listsAreWhole) keepCopy(program, File::lists);
+  report.generalIsWhole = true;  // or kept
+  report.listsAreWhole = true;
+  if (report.problems.empty()) return;
+  std::string text;
+  for (const settings::ReadProblem& problem : report.problems) text += (text.empty() ? "" : "\n") + problem.text;
+  throw base::Failure(report.problems.front().number, text);
+}
+
+}  // namespace
+
+// Each step reports on its own, so that whatever happens before it, what can be read is read.
+StartUp prepareSettings(Program& program, const commands::MainParts& parts) {
+  const auto step = [&](auto&& procedure) { errors::reporting(parts.reporter, kLoadTag, procedure); };
+  step([&] { settings::readUserKeys(parts.platform, program.settings.user); });
+  bool hasDirectory = false;
+  bool isNew = false;
+  step([&] {
+    isNew = program.createsDirectory && createOnFirstUse(program.paths.programDirectory);
+    hasDirectory = true;
+  });
+  if (!hasDirectory) return StartUp::goesOn;  // with the defaults in memory
+  if (program.settings.user.version != settings::kDefaultsVersion) {
+    step([&] { writeFirstStart(program, parts.platform); });
+  } else if (isNew) {
+    step([&] { writeNewDirectory(program); });
+  }
+  for (const File file : {File::general, File::lists}) {
+    if (createIfMissing(program, parts, file) == StartUp::ends) return StartUp::ends;
+  }
+  step([&] { read(program); });
+  return StartUp::goesOn;
+}
+
+}  // namespace lifecycle

@@ -1,0 +1,20 @@
+// The settings in memory.
+#include "settings/settings.h"
+
+#include "base/failure.h"
+#include "base/profile_file.h"
+
+namespace settings {
+
+std::size_t AdjustmentList::index(int slot) {
+  if (slot < 1 || slot > kSlots) throw base::Failure(base::ErrorNumber::indexOutOfRange);
+  return static_cast<std::size_t>(slot) - 1;
+}
+
+std::string Paths::generalSettings() const { return base::joinPath(programDirectory, "Ostrowerk.ini"); }
+
+std::string Paths::adjustmentSettings() const { return base::joinPath(programDirectory, "Tessik.ini"); }
+
+std::string Paths::priceDatabase() const { return base::joinPath(programDirectory, "Tessik.pdb"); }
+
+}  // namespace settings

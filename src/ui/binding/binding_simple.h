@@ -1,0 +1,102 @@
+// The bindings of labels, buttons, check boxes, menu entries and progress bars, of timers and of windows themselves.
+#pragma once
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QPalette>
+#include <QTimer>
+
+#include "ui/binding/binding.h"
+
+namespace ui {
+
+class LabelBinding : public BindingOf<base::Label, QLabel> {
+ public:
+  LabelBinding(base::Label& model, QLabel& widget, const Context& context);
+
+ private:
+  void carryOwn() override;
+  void showColour();
+
+  const QPalette drawn_;
+  Shown<std::string> text_;
+  Shown<std::optional<base::Rgb>> colour_{std::nullopt};
+};
+
+/// A button or a menu entry, shown by a QAbstractButton or by a QAction, which may stand in several menus and bars.
+class CommandBinding : public ControlBinding {
+ public:
+  CommandBinding(base::Control& model, const std::string& text, QObject& shown, const Context& context);
+
+ private:
+  void carryOwn() override { shownText_.carry(text_); }
+
+  const std::string& text_;
+  DrawnText shownText_;
+};
+
+/// Whatever is on or off: a button that stays pressed, a check box, an option button.
+class SwitchBinding : public ControlBinding {
+ public:
+  /// `text` may be null: the form's text stands.
+  SwitchBinding(base::Control& model, bool& isOn, const std::string* text, QObject& shown, const Context& context);
+
+ private:
+  void carryOwn() override;
+  void distrust() override { shownIsOn_.forget(); }
+  void take(bool isOn);
+
+  bool& isOn_;
+  const std::string* text_;
+  QObject& shown_;
+  Shown<bool> shownIsOn_;
+  DrawnText shownText_;
+};
+
+/// Any widget with the properties minimum, maximum and value, and text or format.
+class ProgressBinding : public BindingOf<base::ProgressBar, QWidget> {
+ public:
+  ProgressBinding(base::ProgressBar& model, QWidget& widget, const Context& context);
+
+ private:
+  void carryOwn() override;
+
+  Shown<std::pair<int, int>> range_;
+  Shown<int> value_;
+  DrawnText text_;
+};
+
+/// A tick that falls into a running procedure waits for the pass that follows it.
+class TimerBinding : public Binding {
+ public:
+  TimerBinding(base::Timer& model, const Context& context);
+
+  void carry() override;
+
+ private:
+  void tick();
+  void tickAtLast();
+
+  base::Timer& model_;
+  QTimer timer_;
+  Shown<base::Timer> shown_;
+  bool isWaiting_ = false;
+};
+
+/// Caption and state of a window, and the keys and clicks that none of its controls has used.
+class WindowBinding : public Binding {
+ public:
+  WindowBinding(base::Window& model, QWidget& form, const Context& context);
+
+  void carry() override;
+
+ private:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  base::Window& model_;
+  QWidget& form_;
+  DrawnText caption_;
+  Shown<base::WindowState> state_;
+};
+
+}  // namespace ui

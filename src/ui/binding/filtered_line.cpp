@@ -1,0 +1,60 @@
+// The key filter of a line edit: whatever way text gets in, only what the filter lets through stays.
+#include "ui/binding/filtered_line.h"
+
+#include <QKeyEvent>
+#include <QTimer>
+
+#include "ui/utf8.h"
+
+namespace ui {
+namespace {
+
+/// Whether the line edit inserts the text of this key. Control makes it a command, but Control and Alt are AltGr.
+bool isTyped(const QKeyEvent& key) {
+  const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier & ~Qt::ShiftModifier;
+  return modifiers != Qt::ControlModifier && !key.text().isEmpty() && key.text().front().isPrint();
+}
+
+}  // namespace
+
+FilteredLine::FilteredLine(const base::Control& box, QLineEdit& edit, QWidget& keys, const Context& context)
+    : box_(box), edit_(edit), context_(context), before_(edit.text()) {
+  edit.setValidator(this);
+  connect(&edit, &QLineEdit::textChanged, this, [this] { before_ = edit_.text(); });
+  keys.installEventFilter(this);
+}
+
+std::optional<QString> FilteredLine::replacement(const QString& typed) const {
+  const std::string whole = toUtf8(typed);
+  const auto taken = context_.wiring.filtered(box_, whole);
+  if (taken.refused) context_.gate.beep();
+  if (taken.text == whole) return std::nullopt;
+  return toQString(taken.text);
+}
+
+bool FilteredLine::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress || edit_.isReadOnly()) return QObject::eventFilter(watched, event);
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  if (!isTyped(key)) return false;
+  const auto instead = replacement(key.text());
+  if (!instead) return false;
+  if (!instead->isEmpty()) edit_.insert(*instead);
+  return true;
+}
+
+QValidator::State FilteredLine::validate(QString& text, int& caret) const {
+  if (context_.gate.isWriting() || edit_.isRedoAvailable()) return Acceptable;
+  const InsertedPiece piece = insertedPiece(before_, text, caret);
+  const auto instead = replacement(piece.text);
+  if (!instead) return Acceptable;
+  if (!instead->isEmpty()) {
+    // Only after the line edit has taken the rejected text back can the rest go in.
+    QTimer::singleShot(0, &edit_, [edit = &edit_, piece, instead] {
+      edit->setSelection(static_cast<int>(piece.start), static_cast<int>(piece.removed));
+      edit->insert(*instead);
+    });
+  }
+  return Invalid;
+}
+
+}  // namespace ui

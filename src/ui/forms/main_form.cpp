@@ -1,0 +1,120 @@
+// The main window on the screen.
+#include "ui/forms/main_form.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QShortcut>
+#include <QTimer>
+#include <initializer_list>
+#include <utility>
+
+#include "ui/appearance.h"
+#include "ui/binding/input_guard.h"
+#include "ui/user_settings.h"
+#include "ui_main_window.h"
+
+namespace ui {
+namespace {
+
+constexpr const char* kGeometryKey = "Hauptfenster";
+constexpr const char* kSplitterKey = "Teiler";
+constexpr double kShareOfSmallScreen = 0.95;  // the rest is for the window's frame
+
+std::unique_ptr<Ui::MainWindowForm> drawnOn(QMainWindow& window) {
+  auto drawn = std::make_unique<Ui::MainWindowForm>();
+  drawn->setupUi(&window);
+  return drawn;
+}
+
+// Beside the commands, where they cost the lettering no room; what a narrow window cannot hold goes into its overflow.
+void moveFormatIntoToolBar(const Ui::MainWindowForm& drawn) {
+  drawn.fixLeiste->addSeparator();
+  for (QWidget* const part :
+       std::initializer_list<QWidget*>{drawn.fixSchrift, drawn.cboFontSelect, drawn.fixGröße, drawn.cboFontSize}) {
+    drawn.fixLeiste->addWidget(part);
+  }
+  drawn.fixLeiste->addActions(drawn.fixFormat->actions());
+}
+
+// The lettering stands on white paper, whatever the palette.
+void makePaperWhite(QWidget& paper) {
+  QPalette palette = paper.palette();
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::PlaceholderText, Qt::darkGray);
+  paper.setPalette(palette);
+}
+
+}  // namespace
+
+MainForm::MainForm() : drawn_(drawnOn(*this)), document_(*drawn_->rtfText) {
+  // Labels of our own in the status bar instead of showMessage(), which every status tip would overwrite.
+  drawn_->fixStatus->addWidget(drawn_->lblZeile);
+  drawn_->fixStatus->addPermanentWidget(drawn_->lblHinweis);
+  drawn_->fixStatus->addPermanentWidget(drawn_->lblZusatz);
+  drawn_->fixTeiler->setStretchFactor(0, 1);
+  drawn_->fixTeiler->setStretchFactor(1, 0);
+  moveFormatIntoToolBar(*drawn_);
+  fitToScreen();
+  makePaperWhite(*drawn_->rtfText);
+  // The height's label is written by the calculation and cannot carry an access key of its own.
+  connect(new QShortcut(Qt::ALT | Qt::Key_T, this), &QShortcut::activated, drawn_->cboBuchstabenhöhe,
+          [this] { drawn_->cboBuchstabenhöhe->setFocus(Qt::ShortcutFocusReason); });
+  drawn_->rtfText->setFocus();
+}
+
+MainForm::~MainForm() = default;
+
+void MainForm::fitToScreen() {
+  const QSize available = QGuiApplication::primaryScreen()->availableSize();
+  resize(size().boundedTo(available * kShareOfSmallScreen));
+}
+
+BoundWindow& MainForm::bindTo(frame::MainWindow& window, const base::Wiring& wiring, Gate& gate, Sync& sync) {
+  RichTextEdit* const edit = drawn_->rtfText;
+  connect(edit, &RichTextEdit::edited, this, firing(wiring, gate, document_, base::Event::changed));
+  connect(edit, &RichTextEdit::caretMoved, this, firing(wiring, gate, document_, base::Event::selected));
+  connect(edit, &RichTextEdit::released, this, firing(wiring, gate, document_, base::Event::released));
+  new InputGuard(gate, *edit);  // belongs to what it guards
+  new InputGuard(gate, *edit->viewport());
+  mayClose_ = [&window, &wiring, &gate] {
+    window.keepsOpen = false;
+    return gate.userEvent([&] { wiring.fire(window, base::Event::closing); }) && !window.keepsOpen;
+  };
+  return bind(window, *this, wiring, gate, sync);
+}
+
+void MainForm::restoreLayout() {
+  if (const auto geometry = storedBytes(kGeometryKey)) restoreGeometry(*geometry);
+  setWindowState(Qt::WindowNoState);  // maximised only when the program's own key says so
+  if (const auto splitter = storedBytes(kSplitterKey)) drawn_->fixTeiler->restoreState(*splitter);
+}
+
+void MainForm::saveLayout() const {
+  storeBytes(kGeometryKey, saveGeometry());
+  storeBytes(kSplitterKey, drawn_->fixTeiler->saveState());
+}
+
+void MainForm::closeEvent(QCloseEvent* event) {
+  event->setAccepted(!mayClose_ || mayClose_());
+  if (!event->isAccepted()) return;
+  saveLayout();
+  QCoreApplication::quit();
+}
+
+void MainForm::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  if (isPainted_) return;
+  isPainted_ = true;
+  if (painted_) QTimer::singleShot(0, this, painted_);
+  QTimer::singleShot(0, this, setProgramIcon);
+}
+
+void MainForm::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) followPalette();
+}
+
+}  // namespace ui
