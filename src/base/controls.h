@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/document.h"
+
 namespace base {
 
 /// The rows of a list with a revision number, so that nobody compares 32,000 rows to see whether they changed.
@@ -55,9 +57,6 @@ struct Control {
 
   bool operator==(const Control&) const = default;
 };
-
-/// A colour as 0xRRGGBB.
-using Rgb = std::uint32_t;
 
 struct Label : Control {
   std::string text;

@@ -13,6 +13,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/document.h"
+
 namespace base {
 
 struct TextSelection {
@@ -41,17 +43,6 @@ struct TextCount {
   std::int64_t lineEnds = 0;
 
   bool operator==(const TextCount&) const = default;
-};
-
-/// The format of characters.
-struct CharFormat {
-  std::string family = "Arial";
-  double points = 8;
-  bool bold = false;
-  bool italic = false;
-  bool underline = false;
-
-  bool operator==(const CharFormat&) const = default;
 };
 
 /// What of a character format is to change; the rest stays as each character has it.
