@@ -10,33 +10,24 @@
 #include <string>
 
 #include "calc/price_database.h"
-#include "lifecycle/program.h"
-#include "lifecycle/wire.h"
 #include "measure.h"
-#include "ui/forms/main_form.h"
-#include "ui/qt_platform.h"
+#include "ui/desktop.h"
 #include "ui/text/rich_text_edit.h"
 
 namespace {
 
-// The main window as the program puts it together, with a price list of two heights.
+// The program as it is composed for the screen, with a price list of two heights.
 struct Desk {
-  ui::Gate gate;
-  ui::Sync sync{gate};
-  ui::QtPlatform platform{gate, sync};
-  errors::Reporter reporter{platform};
-  lifecycle::Program program;
-  ui::MainForm form;
-  commands::MainParts parts = lifecycle::mainParts(program, platform, form.document(), reporter);
-  ui::BoundWindow& bound;
+  ui::Desktop desktop{{.path = std::filesystem::temp_directory_path().string()}};
+  lifecycle::Program& program = desktop.program();
+  frame::MainWindow& window = program.windows.main;
 
-  Desk() : bound((lifecycle::wire(program, parts), form.bindTo(program.main, program.wiring, gate, sync))) {
-    program.main.cboBuchstabenhöhe.items.assign({"50", "100"});
-    program.main.List1.items = {calc::alignedPrice("1.25"), calc::alignedPrice("2.50")};
-    program.main.cboBuchstabenhöhe.select(0);
-    commands::calculate(parts);
-    sync.open(bound);
-    form.show();
+  Desk() {
+    window.cboBuchstabenhöhe.items.assign({"50", "100"});
+    window.List1.items = {calc::alignedPrice("1.25"), calc::alignedPrice("2.50")};
+    window.cboBuchstabenhöhe.select(0);
+    program.platform.show(window);
+    desktop.run([this] { commands::calculate(lifecycle::partsOf(program)); });
     QApplication::processEvents();
   }
 };
@@ -53,13 +44,13 @@ double ownShare(Desk& desk, int runs) {
   return bench::medianMilliseconds(
       runs, [&] { return odd = !odd; },
       [&](bool /*unused*/) {
-        desk.program.main.txtStück.text = odd ? "2" : "3";
-        desk.gate.userEvent([&] { desk.program.wiring.fire(desk.form.document(), base::Event::changed); });
+        desk.window.txtStück.text = odd ? "2" : "3";
+        desk.desktop.run([&] { desk.program.wiring.fire(desk.window.rtfText, base::Event::changed); });
       });
 }
 
 double wholeKey(Desk& desk, int runs) {
-  auto* const edit = desk.form.findChild<ui::RichTextEdit*>(QStringLiteral("rtfText"));
+  auto* const edit = desk.desktop.mainForm().findChild<ui::RichTextEdit*>(QStringLiteral("rtfText"));
   return bench::medianMilliseconds(
       runs, [] { return 0; },
       [&](int /*unused*/) {
@@ -80,7 +71,7 @@ void keys() {
        {Row{"empty", 0, 60}, Row{"65,000 in lines of 60", 65000, 60}, Row{"65,000 in one line", 65000, 65001},
         Row{"1,000,000 in lines of 60", 1000000, 60}, Row{"1,000,000 in one line", 1000000, 1000001}}) {
     Desk desk;
-    desk.form.document().setPlainText(lettering(row.characters, row.lineLength));
+    desk.window.rtfText.setPlainText(lettering(row.characters, row.lineLength));
     QApplication::processEvents();
     const int runs = row.lineLength > 60 ? 5 : 25;
     const double share = ownShare(desk, 50);
@@ -101,7 +92,7 @@ void priceList() {
   Desk desk;
   const double time = bench::medianMilliseconds(
       15, [] { return 0; },
-      [&](int /*unused*/) { desk.gate.userEvent([&] { calc::LoadPriceDatabase(desk.program.main, file.string()); }); });
+      [&](int /*unused*/) { desk.desktop.run([&] { calc::LoadPriceDatabase(desk.window, file.string()); }); });
   std::printf("\nA price list of %d rows into the main window (ms)\n", kRows);
   bench::Table({"load and show"}).row("", {time});
   std::filesystem::remove(file);

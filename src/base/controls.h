@@ -36,6 +36,8 @@ class ItemList {
   [[nodiscard]] std::uint64_t revision() const { return revision_; }
 
   void add(std::string row) { rows_.push_back(std::move(row)), ++revision_; }
+  /// Before the row at `index`, which is 0 to size().
+  void insert(int index, std::string row) { rows_.insert(rows_.begin() + index, std::move(row)), ++revision_; }
   void set(int index, std::string row) { rows_[static_cast<std::size_t>(index)] = std::move(row), ++revision_; }
   void removeAt(int index) { rows_.erase(rows_.begin() + index), ++revision_; }
   void clear() { rows_.clear(), ++revision_; }
@@ -139,6 +141,18 @@ struct MenuEntry : Control {
   bool operator==(const MenuEntry&) const = default;
 };
 
+/// The cards of a window of which one is on top.
+struct Tabs : Control {
+  int current = 0;
+
+  bool operator==(const Tabs&) const = default;
+};
+
+/// A picture that the form draws, such as an indicator that comes and goes.
+struct Picture : Control {
+  bool operator==(const Picture&) const = default;
+};
+
 struct ProgressBar : Control {
   int minimum = 0;
   int maximum = 100;
@@ -159,13 +173,19 @@ struct Timer {
 enum class WindowState : int { normal = 0, minimised = 1, maximised = 2 };
 
 /// What every window has beside its controls. `name` ties it to its form.
+///
+/// However a window is closed, by its button, by Esc, by Alt+F4 or by the program, its procedure of Event::closing runs
+/// first and may refuse.
 struct Window {
   explicit Window(std::string_view windowName) : name(windowName) {}
 
   std::string_view name;
   std::string caption;  // empty: the one that the form draws
   WindowState state = WindowState::normal;
+  bool staysOnTop = false;
+  bool isOpen = false;     // kept by whoever shows it
   bool keepsOpen = false;  // set by the procedure of Event::closing to refuse it
+  bool mayAsk = true;      // false while the desktop ends the program: nobody is there to answer
 };
 
 }  // namespace base

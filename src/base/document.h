@@ -1,7 +1,8 @@
 // A formatted text as a value: paragraphs of runs, which no window is needed for.
 //
-// Text is UTF-8, composed (NFC) by whoever lets it in. A paragraph's text holds no line end but U+2028, the break inside
-// a paragraph. Formats stand once in a table, so that a document of 400,000 runs does not name its typeface that often.
+// Text is UTF-8, composed (NFC) by whoever lets it in. A paragraph's text holds no line end but U+2028, the break
+// inside a paragraph. Formats stand once in a table, so that a document of 400,000 runs does not name its typeface that
+// often.
 #pragma once
 
 #include <cstdint>

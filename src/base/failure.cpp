@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <utility>
 
 namespace base {
@@ -47,6 +48,12 @@ std::string errorText(ErrorNumber number) {
 Failure::Failure(ErrorNumber number) : Failure(number, errorText(number)) {}
 
 Failure::Failure(ErrorNumber number, std::string text) : number_(number), text_(std::move(text)) {}
+
+Failure failureOf(const std::exception& fault) {
+  if (dynamic_cast<const std::bad_alloc*>(&fault) != nullptr) return Failure(ErrorNumber::outOfMemory);
+  if (const auto* const failure = dynamic_cast<const Failure*>(&fault)) return *failure;
+  return {ErrorNumber::internal, errorText(ErrorNumber::internal) + ": " + fault.what()};
+}
 
 void Failure::stamp(std::string_view tag) {
   if (tag_.empty()) tag_ = tag;

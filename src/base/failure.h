@@ -56,6 +56,9 @@ class Failure : public std::exception {
   std::string tag_;
 };
 
+/// What an exception of another kind is to us: out of memory (7), or an internal error (51) with its text.
+Failure failureOf(const std::exception& fault);
+
 /// Runs a tagged procedure that other procedures call: a failure keeps the tag of the innermost one.
 template <typename Procedure>
 decltype(auto) tagged(std::string_view tag, Procedure&& procedure) {

@@ -1,6 +1,7 @@
 // The one interface to the world outside: what the logic asks of the desktop, the machine and the person before it.
 //
-// Qt implements it for the screen, the terminal form for the command line, and tests script it.
+// Qt implements it for the screen, the terminal form for the command line, and tests script it. What an implementation
+// does not have fails as "not available here" (error 68).
 #pragma once
 
 #include <optional>
@@ -29,6 +30,25 @@ struct Message {
   bool operator==(const Message&) const = default;
 };
 
+/// A question that is answered by a line of text.
+struct InputQuestion {
+  std::string text;
+  std::string title = "Tessik";
+  std::string suggestion;
+
+  bool operator==(const InputQuestion&) const = default;
+};
+
+/// What a file dialog shows. `filter` is pairs of description and pattern, all parted by "|":
+/// "RTF-Dokument (*.rtf)|*.rtf|Alle Dateien (*.*)|*.*".
+struct FileQuestion {
+  std::string title;
+  std::string filter;
+  std::string suggestion;  // a file name, or a whole path
+
+  bool operator==(const FileQuestion&) const = default;
+};
+
 struct UserSetting {
   std::string key;
   std::string value;
@@ -40,47 +60,60 @@ class Platform {
  public:
   virtual ~Platform() = default;
 
-  /// Asks and waits for the answer; closing the box answers No or Cancel, whichever it has, else Ok.
-  virtual MessageAnswer messageBox(const Message& message) = 0;
-  /// Shows `window` and waits until it is closed.
-  virtual void showModal(Window& window) = 0;
-  virtual void close(Window& window) = 0;
-  /// Shows `window` beside the others and goes on; hide() takes it from the screen again.
-  virtual void show(Window& window) = 0;
-  virtual void hide(Window& window) = 0;
-  /// Brings what was written to the screen in the middle of long work, without letting events in. Cheap to call often:
+  /// Asks and waits for the answer; closing the box answers No or Cancel, whichever it has, else Ok. So does the end of
+  /// the program while it waits.
+  virtual MessageAnswer messageBox(const Message& message);
+  /// The line typed; nothing when the box was left without one.
+  virtual std::optional<std::string> inputBox(const InputQuestion& question);
+  /// The path chosen; leaving the dialog without one is a Failure (cancelled).
+  virtual std::string askOpenFile(const FileQuestion& question);
+  /// The path as it was chosen, whether or not such a file exists: asking about that is up to the caller.
+  virtual std::string askSaveFile(const FileQuestion& question);
+
+  /// Shows `window` and waits until it is closed. One that is open already comes to the front instead.
+  virtual void showModal(Window& window);
+  /// Shows `window` beside the others and goes on; one that is open already comes to the front.
+  virtual void show(Window& window);
+  /// Closes the window as the person would, once the procedure that asks for it has ended.
+  virtual void close(Window& window);
+  /// Takes the window from the screen without asking it.
+  virtual void hide(Window& window);
+
+  /// Brings what was written to the screen in the middle of long work, without letting input in. Cheap to call often:
   /// it paints at most 60 times a second.
-  virtual void refresh() = 0;
+  virtual void refresh();
+  /// True once Esc was pressed since the hourglass was switched on. Refreshes as well.
+  virtual bool escapePressed();
+  /// While it shows, what the person types or clicks is dropped.
+  virtual void setHourglass(Hourglass hourglass);
 
   /// The sound of a refused action.
-  virtual void beep() = 0;
-  virtual void setHourglass(Hourglass hourglass) = 0;
+  virtual void beep();
 
   /// Moments of the local time.
-  [[nodiscard]] virtual DateTime now() const = 0;
+  [[nodiscard]] virtual DateTime now() const;
   /// Of the screen that the program starts on, in pixels.
-  [[nodiscard]] virtual int screenWidth() const = 0;
+  [[nodiscard]] virtual int screenWidth() const;
   /// Asked when an error is recorded; it may take its time.
-  [[nodiscard]] virtual SystemInformation systemInformation() const = 0;
-
+  [[nodiscard]] virtual SystemInformation systemInformation() const;
   /// The directory of the system's own files.
-  [[nodiscard]] virtual std::string systemRoot() const = 0;
+  [[nodiscard]] virtual std::string systemRoot() const;
 
   /// The clipboard's text, empty when it holds none.
-  [[nodiscard]] virtual std::string clipboardText() const = 0;
-  virtual void setClipboardText(std::string_view text) = 0;
+  [[nodiscard]] virtual std::string clipboardText() const;
+  virtual void setClipboardText(std::string_view text);
 
   /// A value of the user's own store (application Tessik, section "Prog"); nothing when the key is missing.
-  [[nodiscard]] virtual std::optional<std::string> userSetting(std::string_view key) const = 0;
+  [[nodiscard]] virtual std::optional<std::string> userSetting(std::string_view key) const;
   /// Stores values in their order; a store that cannot be written is a Failure.
-  virtual void saveUserSettings(const std::vector<UserSetting>& settings) = 0;
+  virtual void saveUserSettings(const std::vector<UserSetting>& settings);
 
   /// The separators of the user's locale.
-  [[nodiscard]] virtual NumberFormat numberFormat() const = 0;
+  [[nodiscard]] virtual NumberFormat numberFormat() const;
   /// `text` in Unicode normalization form C.
-  [[nodiscard]] virtual std::string composed(std::string_view text) const = 0;
+  [[nodiscard]] virtual std::string composed(std::string_view text) const;
   /// The typefaces of the screen, in the order in which they are offered.
-  [[nodiscard]] virtual std::vector<std::string> fontFamilies() const = 0;
+  [[nodiscard]] virtual std::vector<std::string> fontFamilies() const;
 };
 
 }  // namespace base

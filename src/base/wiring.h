@@ -2,7 +2,8 @@
 //
 // A window's wiring is filled once by the logic and driven by whoever brings the events: the screen, the terminal form
 // or a test. There are three kinds: a key before the change (it may replace or drop the character), a change after the
-// model holds the new value, and the plain events that carry nothing.
+// model holds the new value, and the plain events that carry nothing. Whoever brings an event asks at that moment what
+// is wired, never before.
 #pragma once
 
 #include <functional>
@@ -13,16 +14,16 @@
 #include <utility>
 
 #include "base/controls.h"
-#include "base/rich_text.h"
 
 namespace base {
 
 enum class Event {
-  click,     // a button or menu entry was used, a row of a list or combo box was chosen
-  changed,   // the text was changed by the user
-  selected,  // the selection of a text, or the current or marked rows of a list box, moved
-  released,  // a key or the mouse button was let go in a text
-  keyEnter,  // the keys that have a meaning of their own
+  click,  // a button or menu entry was used, a row of a list or combo box was chosen, a tab was brought to the top
+  doubleClick,  // of a row of a list
+  changed,      // the text was changed by the user
+  selected,     // the selection of a text, or the current or marked rows of a list box, moved
+  released,     // a key or the mouse button was let go in a text
+  keyEnter,     // the keys that have a meaning of their own
   keyInsert,
   keyDelete,
   keyEscape,
@@ -40,7 +41,6 @@ using KeyFilter = std::optional<char32_t> (*)(char32_t);
 class EventSource {
  public:
   EventSource(const Control& control) : identity_(&control) {}  // NOLINT(google-explicit-constructor)
-  EventSource(const RichText& text) : identity_(&text) {}       // NOLINT(google-explicit-constructor)
   EventSource(const Window& window) : identity_(&window) {}     // NOLINT(google-explicit-constructor)
   EventSource(const Timer& timer) : identity_(&timer) {}        // NOLINT(google-explicit-constructor)
 
@@ -53,10 +53,16 @@ class EventSource {
 class Wiring {
  public:
   using Procedure = std::function<void()>;
+  /// Takes the character that a key types (backspace 8, Enter 13, Escape 27); true when it has used the key.
+  using KeyProcedure = std::function<bool(char32_t)>;
+  /// The tool tip of a row of a list.
+  using RowTip = std::function<std::string(int row)>;
 
-  void on(EventSource source, Event event, Procedure procedure) {
-    procedures_[{source.identity(), event}] = std::move(procedure);
-  }
+  /// A second procedure for the same event is a fault of the program (std::logic_error): the first would be lost.
+  void on(EventSource source, Event event, Procedure procedure);
+  /// Every key that comes to a window or control, before it is used otherwise.
+  void onKey(EventSource source, KeyProcedure procedure);
+  void rowTip(const ListBox& list, RowTip tip) { rowTips_[&list] = std::move(tip); }
   void filter(const TextBox& box, KeyFilter keyFilter) { filters_[&box] = keyFilter; }
   void filter(const ComboBox& box, KeyFilter keyFilter) { filters_[&box] = keyFilter; }
 
@@ -66,6 +72,11 @@ class Wiring {
   [[nodiscard]] bool handles(EventSource source, Event event) const {
     return procedures_.contains({source.identity(), event});
   }
+  [[nodiscard]] bool handlesKeys(EventSource source) const { return keys_.contains(source.identity()); }
+  /// Runs what is wired to keys; true when that has used this one.
+  bool fireKey(EventSource source, char32_t key) const;
+  /// Empty where there is none.
+  [[nodiscard]] std::string tipOf(const ListBox& list, int row) const;
 
   struct Filtered {
     std::string text;
@@ -78,6 +89,8 @@ class Wiring {
  private:
   std::map<std::pair<const void*, Event>, Procedure> procedures_;
   std::map<const void*, KeyFilter> filters_;
+  std::map<const void*, KeyProcedure> keys_;
+  std::map<const void*, RowTip> rowTips_;
 };
 
 }  // namespace base

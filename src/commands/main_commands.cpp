@@ -22,8 +22,8 @@ Wiring::Procedure reported(const MainParts& parts, std::string_view tag, Procedu
 
 void wireDocument(Wiring& wiring, const MainParts& parts) {
   for (const Event event : {Event::changed, Event::selected, Event::released}) {
-    wiring.on(parts.document, event, reported(parts, calc::kCalcTag, [](const MainParts& p) {
-                editor::showFormat(p.window, p.document);
+    wiring.on(parts.window.rtfText, event, reported(parts, calc::kCalcTag, [](const MainParts& p) {
+                editor::showFormat(p.window, p.window.rtfText);
                 calculate(p);
               }));
   }
@@ -32,7 +32,7 @@ void wireDocument(Wiring& wiring, const MainParts& parts) {
 void wireFormat(Wiring& wiring, const MainParts& parts) {
   const auto format = [&](const base::Control& control, std::string_view tag, auto apply) {
     wiring.on(control, Event::click, reported(parts, tag, [apply](const MainParts& p) {
-                apply(p.window, p.document);
+                apply(p.window, p.window.rtfText);
                 calculate(p);
               }));
   };
@@ -48,16 +48,19 @@ void wireEditing(Wiring& wiring, const MainParts& parts) {
   const auto edit = [&](const base::MenuEntry& entry, std::string_view tag, auto command) {
     wiring.on(entry, Event::click, reported(parts, tag, [command](const MainParts& p) {
                 command(p);
-                editor::showFormat(p.window, p.document);
+                editor::showFormat(p.window, p.window.rtfText);
                 calculate(p);
               }));
   };
   const auto& window = parts.window;
-  edit(window.mnuCut, "MAIN-mnuCut_Click", [](const MainParts& p) { editor::cutSelection(p.document, p.platform); });
-  edit(window.mnuCopy, "MAIN-mnuCopy_Click", [](const MainParts& p) { editor::copySelection(p.document, p.platform); });
-  edit(window.mnuPaste, "MAIN-mnuPaste_Click", [](const MainParts& p) { editor::pasteText(p.document, p.platform); });
-  edit(window.mnuDelete, "MAIN-mnuDelete_Click", [](const MainParts& p) { editor::deleteSelection(p.document); });
-  edit(window.mnuMarkAll, "MAIN-mnuMarkAll_Click", [](const MainParts& p) { editor::selectAll(p.document); });
+  edit(window.mnuCut, "MAIN-mnuCut_Click",
+       [](const MainParts& p) { editor::cutSelection(p.window.rtfText, p.platform); });
+  edit(window.mnuCopy, "MAIN-mnuCopy_Click",
+       [](const MainParts& p) { editor::copySelection(p.window.rtfText, p.platform); });
+  edit(window.mnuPaste, "MAIN-mnuPaste_Click",
+       [](const MainParts& p) { editor::pasteText(p.window.rtfText, p.platform); });
+  edit(window.mnuDelete, "MAIN-mnuDelete_Click", [](const MainParts& p) { editor::deleteSelection(p.window.rtfText); });
+  edit(window.mnuMarkAll, "MAIN-mnuMarkAll_Click", [](const MainParts& p) { editor::selectAll(p.window.rtfText); });
 }
 
 void wireProgram(Wiring& wiring, const MainParts& parts) {
@@ -150,7 +153,7 @@ void wireAddByHand(Wiring& wiring, const MainParts& parts) {
 
 calc::CalcParts calcParts(const MainParts& parts) {
   return {.window = parts.window,
-          .document = parts.document,
+          .document = parts.window.rtfText,
           .rates = parts.settings.rates,
           .results = parts.results,
           .format = parts.platform.numberFormat()};

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "base/platform.h"
-#include "base/rich_text.h"
 #include "base/wiring.h"
 #include "calc/calc.h"
 #include "calc/picker.h"
@@ -15,7 +14,6 @@ namespace commands {
 /// What the main window's procedures work on. All of it outlives the wiring.
 struct MainParts {
   frame::MainWindow& window;
-  base::RichText& document;
   settings::Settings& settings;
   settings::Paths& paths;
   frame::CalcResults& results;

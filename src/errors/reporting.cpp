@@ -7,9 +7,9 @@ void Reporter::report(const base::Failure& failure) {
   platform_.setHourglass(base::Hourglass::off);
   if (failure.number() == base::ErrorNumber::none || failure.number() == base::ErrorNumber::cancelled) return;
   platform_.messageBox({.text = failure.text(), .title = "Fehler", .icon = base::MessageIcon::stop});
-  if (program_ == nullptr) return;
+  if (program_.directory.empty()) return;
   writeErrorLog({.failure = failure,
-                 .program = *program_,
+                 .program = program_,
                  .moment = platform_.now(),
                  .system = platform_.systemInformation(),
                  .format = platform_.numberFormat()});

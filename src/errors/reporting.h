@@ -2,7 +2,7 @@
 // the error; a skipping one passes over the failing statement.
 #pragma once
 
-#include <new>
+#include <exception>
 #include <string_view>
 #include <utility>
 
@@ -14,10 +14,8 @@ namespace errors {
 
 class Reporter {
  public:
-  /// A reporter that only shows.
-  explicit Reporter(base::Platform& platform) : platform_(platform) {}
-  /// One that also keeps the error log of `program`, which must outlive it.
-  Reporter(base::Platform& platform, const ProgramInformation& program) : platform_(platform), program_(&program) {}
+  /// Keeps the error log of `program`, unless that has no directory. Both outlive it.
+  Reporter(base::Platform& platform, const ProgramInformation& program) : platform_(platform), program_(program) {}
 
   /// Clears the hourglass, shows the failure and records it, unless its number says that there is nothing to tell (0,
   /// cancelled).
@@ -25,18 +23,16 @@ class Reporter {
 
  private:
   base::Platform& platform_;
-  const ProgramInformation* program_ = nullptr;
+  const ProgramInformation& program_;
 };
 
-/// Runs `procedure` under `tag`; a failure ends it and is reported.
+/// Runs `procedure` under `tag`; a failure, of whatever kind, ends it and is reported.
 template <typename Procedure>
 void reporting(Reporter& reporter, std::string_view tag, Procedure&& procedure) {
   try {
     base::tagged(tag, std::forward<Procedure>(procedure));
-  } catch (const base::Failure& failure) {
-    reporter.report(failure);
-  } catch (const std::bad_alloc&) {
-    base::Failure failure(base::ErrorNumber::outOfMemory);
+  } catch (const std::exception& fault) {
+    base::Failure failure = base::failureOf(fault);
     failure.stamp(tag);
     reporter.report(failure);
   }

@@ -5,12 +5,14 @@
 
 #include "base/controls.h"
 #include "base/currency.h"
+#include "base/rich_text_box.h"
 
 namespace frame {
 
 // clang-format off
 #define TESSIK_MAIN_WINDOW_CONTROLS(CONTROL)                                                   \
   /* the lettering: height, quantity, typeface */                                              \
+  CONTROL(base::RichTextBox, rtfText)                                                          \
   CONTROL(base::ComboBox, cboFontSelect)                                                       \
   CONTROL(base::ComboBox, cboFontSize)                                                         \
   CONTROL(base::ToggleButton, cmdFett)                                                         \

@@ -22,7 +22,7 @@ void tellCopy(frame::MainWindow& window, const std::string& copy) {
 }
 
 void keepCopy(Program& program, File file) {
-  if (const auto copy = settings::keepNumberedCopy(pathOf(program.paths, file))) tellCopy(program.main, *copy);
+  if (const auto copy = settings::keepNumberedCopy(pathOf(program.paths, file))) tellCopy(program.windows.main, *copy);
 }
 
 // Keys that have no default of a first start, such as the company address, stay.
@@ -68,13 +68,13 @@ bool mayCreate(base::Platform& platform, const std::string& what, const std::str
 
 StartUp createIfMissing(Program& program, const commands::MainParts& parts, File file) {
   if (base::FileExists(pathOf(program.paths, file))) return StartUp::goesOn;
-  parts.platform.hide(program.loading);
+  parts.platform.hide(program.windows.loading);
   const bool may = file == File::general
                        ? mayCreate(parts.platform, "Einstellungs-Initialisierungsdatei", "Ostrowerk.ini")
                        : mayCreate(parts.platform, "Rabatte Initialisierungsdatei", "Tessik.ini");
   if (!may) return StartUp::ends;
   errors::reporting(parts.reporter, kLoadTag, [&] { settings::writeDefaults(program.paths, program.settings, file); });
-  parts.platform.show(program.loading);
+  parts.platform.show(program.windows.loading);
   return StartUp::goesOn;
 }
 

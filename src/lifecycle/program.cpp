@@ -1,18 +1,26 @@
-// The program put together.
+// What the program owns.
 #include "lifecycle/program.h"
 
-namespace lifecycle {
+#include <string>
 
-commands::MainParts mainParts(Program& program, base::Platform& platform, base::RichText& document,
-                              errors::Reporter& reporter) {
-  return {.window = program.main,
-          .document = document,
+#include "base/build_values.h"
+#include "base/version.h"
+
+namespace lifecycle {
+Program::Program(base::Platform& world, const ProgramDirectory& directory)
+    : platform(world),
+      paths{directory.path},
+      createsDirectory(directory.isUsersOwn),
+      information{.version = base::kVersion, .build = std::string(base::kBuildText), .directory = directory.path} {}
+
+commands::MainParts partsOf(Program& program) {
+  return {.window = program.windows.main,
           .settings = program.settings,
           .paths = program.paths,
           .results = program.results,
-          .picker = program.picker,
-          .platform = platform,
-          .reporter = reporter};
+          .picker = program.windows.picker,
+          .platform = program.platform,
+          .reporter = program.reporter};
 }
 
 }  // namespace lifecycle

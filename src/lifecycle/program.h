@@ -1,36 +1,42 @@
-// What the program owns: its windows, settings and results. The wiring holds references into it, so it stays in place.
+// What the program owns: its windows, settings and results, wired. The wiring holds references into it, so it stays in
+// place; assemble() alone makes one.
 #pragma once
 
-#include "base/build_values.h"
-#include "base/version.h"
+#include <memory>
+
 #include "base/wiring.h"
-#include "calc/picker.h"
 #include "commands/main_commands.h"
 #include "errors/reporting.h"
-#include "frame/main_window.h"
-#include "lifecycle/loading_window.h"
+#include "lifecycle/program_directory.h"
+#include "lifecycle/windows.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 
 namespace lifecycle {
 
 struct Program {
+  base::Platform& platform;
   settings::Paths paths;
   bool createsDirectory = false;  // the program directory is the user's own and may be missing
-  settings::Settings settings;
-  frame::MainWindow main;
-  frame::CalcResults results;
-  calc::PickerWindow picker;
-  LoadingWindow loading;
-  errors::ProgramInformation information{
-      .version = base::kVersion, .build = std::string(base::kBuildText), .directory = {}};
+  errors::ProgramInformation information;
+  errors::Reporter reporter{platform, information};
+  settings::Settings settings = {};
   // Of the settings files, nothing of which is read at first; what was not read is not overwritten without a copy.
   settings::ReadReport readReport{.problems = {}, .generalIsWhole = false, .listsAreWhole = false};
-  base::Wiring wiring;
+  frame::CalcResults results = {};
+  Windows windows = {};
+  base::Wiring wiring = {};
+
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+  ~Program() = default;
+
+ private:
+  friend std::unique_ptr<Program> assemble(base::Platform& platform, const ProgramDirectory& directory);
+  Program(base::Platform& world, const ProgramDirectory& directory);
 };
 
-/// The program's parts together with the world it runs in, as the main window's procedures want them.
-commands::MainParts mainParts(Program& program, base::Platform& platform, base::RichText& document,
-                              errors::Reporter& reporter);
+/// The parts that the main window's procedures work on.
+commands::MainParts partsOf(Program& program);
 
 }  // namespace lifecycle

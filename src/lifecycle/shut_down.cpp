@@ -12,19 +12,19 @@ namespace {
 
 constexpr std::string_view kUnloadTag = "MAIN-frmUnload";
 
-void saveUserKeys(Program& program, base::Platform& platform) {
+void saveUserKeys(Program& program) {
   settings::UserKeys& keys = program.settings.user;
-  keys.windowState = std::to_string(static_cast<int>(program.main.state));
+  keys.windowState = std::to_string(static_cast<int>(program.windows.main.state));
   keys.reminderSound = program.settings.reminderSound;
-  settings::writeUserKeys(platform, keys);
+  settings::writeUserKeys(program.platform, keys);
 }
 
 }  // namespace
 
-void unload(Program& program, const commands::MainParts& parts) {
-  errors::reporting(parts.reporter, kUnloadTag, [&] { saveUserKeys(program, parts.platform); });
+void unload(Program& program) {
+  errors::reporting(program.reporter, kUnloadTag, [&] { saveUserKeys(program); });
   for (const settings::File file : {settings::File::lists, settings::File::general}) {
-    errors::reporting(parts.reporter, kUnloadTag,
+    errors::reporting(program.reporter, kUnloadTag,
                       [&] { settings::saveSettings(program.paths, program.settings, file, program.readReport); });
   }
 }

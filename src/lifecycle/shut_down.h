@@ -7,6 +7,6 @@ namespace lifecycle {
 
 /// The main window's unload handler. A store or file that cannot be written is one message each and does not keep the
 /// others from being written, nor the program from ending.
-void unload(Program& program, const commands::MainParts& parts);
+void unload(Program& program);
 
 }  // namespace lifecycle

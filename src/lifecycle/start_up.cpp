@@ -40,7 +40,7 @@ void fillFixedLists(Program& program, const commands::MainParts& parts) {
   for (base::ToggleButton* const attribute : {&window.cmdFett, &window.cmdKursiv, &window.cmdUnterstrichen}) {
     attribute->pressed = false;
   }
-  parts.document.setFormat(editor::startFormat());
+  parts.window.rtfText.setFormat(editor::startFormat());
   window.cboFontSize.clear();
   for (const int size : kFontSizes) window.cboFontSize.items.add(std::to_string(size));
   window.caption = "Tessik v" + std::string(base::kVersion) + " ";
@@ -110,13 +110,13 @@ void loadTypefaces(const commands::MainParts& parts, Loading& loading) {
     parts.window.cboFontSelect.items.add(family);
     loading.step();
   }
-  editor::showFormat(parts.window, parts.document);
+  editor::showFormat(parts.window, parts.window.rtfText);
 }
 
 void loadAll(Program& program, const commands::MainParts& parts) {
   constexpr int kOpeningSteps = 500;
-  Loading loading(program.loading, parts.platform);
-  program.loading.lblVersion.text = std::string("Version ") + base::kVersion;
+  Loading loading(program.windows.loading, parts.platform);
+  program.windows.loading.lblVersion.text = std::string("Version ") + base::kVersion;
   loading.stage("Initialisiere ...", kOpeningSteps);
   for (int step = 1; step < kOpeningSteps; ++step) loading.step();
   loadTypefaces(parts, loading);
@@ -131,28 +131,30 @@ void loadAll(Program& program, const commands::MainParts& parts) {
 
 }  // namespace
 
-StartUp load(Program& program, const commands::MainParts& parts) {
+StartUp load(Program& program) {
+  const commands::MainParts parts = partsOf(program);
   if (!screenIsWideEnough(parts.platform)) return StartUp::ends;
   program.settings.reminderSound = settings::defaultReminderSound(parts.platform.systemRoot());
-  errors::reporting(parts.reporter, kLoadTag, [&] { parts.platform.show(program.loading); });
+  errors::reporting(parts.reporter, kLoadTag, [&] { parts.platform.show(program.windows.loading); });
   const StartUp result = prepareSettings(program, parts);
   // The window is furnished also when a file could not be written or read.
   errors::reporting(parts.reporter, kLoadTag, [&] { fillFixedLists(program, parts); });
-  program.main.tmrLoad = {.running = result == StartUp::goesOn, .intervalMilliseconds = 1};
+  program.windows.main.tmrLoad = {.running = result == StartUp::goesOn, .intervalMilliseconds = 1};
   return result;
 }
 
-void loadBehindScreen(Program& program, const commands::MainParts& parts) {
-  program.main.tmrLoad.running = false;
+void loadBehindScreen(Program& program) {
+  const commands::MainParts parts = partsOf(program);
+  program.windows.main.tmrLoad.running = false;
   errors::reporting(parts.reporter, kTimerTag, [&] {
     loadAll(program, parts);
-    if (!program.main.cboBuchstabenhöhe.items.empty()) program.main.cboBuchstabenhöhe.select(0);
+    if (!program.windows.main.cboBuchstabenhöhe.items.empty()) program.windows.main.cboBuchstabenhöhe.select(0);
   });
   // Also after a failure: what stands in the window shall be calculated.
   errors::reporting(parts.reporter, kTimerTag, [&] { commands::calculate(parts); });
-  parts.platform.hide(program.loading);
-  if (program.settings.user.windowState == "2") program.main.state = base::WindowState::maximised;
-  parts.platform.show(program.main);
+  parts.platform.hide(program.windows.loading);
+  if (program.settings.user.windowState == "2") program.windows.main.state = base::WindowState::maximised;
+  parts.platform.show(program.windows.main);
 }
 
 }  // namespace lifecycle

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <istream>
+#include <memory>
 #include <ostream>
 #include <string_view>
 #include <utility>
@@ -14,15 +15,13 @@
 
 #include "base/code_page.h"
 #include "base/files.h"
-#include "base/memory_rich_text.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "base/version.h"
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
-#include "lifecycle/program.h"
+#include "lifecycle/assembly.h"
 #include "lifecycle/program_directory.h"
-#include "lifecycle/wire.h"
 #include "qtcore/locale.h"
 #include "settings/settings_files.h"
 #include "terminal/arguments.h"
@@ -71,11 +70,11 @@ std::string lettering(const PriceRequest& request, const Streams& streams) {
   return text;
 }
 
-void chooseDirectory(settings::Paths& paths, const PriceRequest& request) {
+lifecycle::ProgramDirectory directory(const PriceRequest& request) {
   if (request.programDirectory && !std::filesystem::is_directory(*request.programDirectory)) {
     throw WrongArgument("Das Verzeichnis \"" + *request.programDirectory + "\" gibt es nicht.");
   }
-  paths.programDirectory = lifecycle::programDirectory(lifecycle::directoryCandidates(request.programDirectory)).path;
+  return lifecycle::programDirectory(lifecycle::directoryCandidates(request.programDirectory));
 }
 
 // What is wrong with a stored count is told and passed over, as in the window; any other problem ends.
@@ -159,21 +158,19 @@ void typeAmounts(const base::Wiring& wiring, frame::MainWindow& window, const Pr
 
 std::string price(const PriceRequest& request, const Streams& streams) {
   TerminalPlatform platform;
-  base::MemoryRichText document([&platform](std::string_view text) { return platform.composed(text); });
-  errors::Reporter reporter(platform);
-  lifecycle::Program program;
-  chooseDirectory(program.paths, request);
+  const std::unique_ptr<lifecycle::Program> assembled = lifecycle::assemble(platform, directory(request));
+  lifecycle::Program& program = *assembled;
+  program.information.directory.clear();  // the terminal form tells its errors, it keeps no log
   readSettings(program, request, streams.error);
-  const MainParts parts = lifecycle::mainParts(program, platform, document, reporter);
-  lifecycle::wire(program, parts);
+  const MainParts parts = lifecycle::partsOf(program);
 
-  document.setPlainText(lettering(request, streams));
+  parts.window.rtfText.setPlainText(lettering(request, streams));
   loadLists(parts);
   setInputs(parts, request);
   calculate(parts);
-  typeAmounts(program.wiring, program.main, request);
+  typeAmounts(program.wiring, parts.window, request);
   if (platform.message()) throw base::Failure(base::ErrorNumber::none, platform.message()->text);
-  return request.json ? json(program.main) : table(program.main);
+  return request.json ? json(parts.window) : table(parts.window);
 }
 
 }  // namespace

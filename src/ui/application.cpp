@@ -2,27 +2,20 @@
 #include "ui/application.h"
 
 #include <QApplication>
-#include <QDialog>
+#include <QSessionManager>
 #include <iostream>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "lifecycle/program.h"
 #include "lifecycle/program_directory.h"
-#include "lifecycle/start_up.h"
-#include "lifecycle/wire.h"
 #include "ui/appearance.h"
-#include "ui/forms/dialogs.h"
-#include "ui/forms/main_form.h"
-#include "ui/qt_platform.h"
+#include "ui/desktop.h"
+#include "ui/end_signals.h"
 
 namespace ui {
 namespace {
-
-using lifecycle::Program;
-using lifecycle::StartUp;
 
 constexpr int kExitNotStarted = 1;
 constexpr int kExitWrongArgument = 2;
@@ -55,56 +48,21 @@ bool hasDisplay() {
          !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
-// The program and everything it needs on the screen, in the order in which one outlives the other.
-class Desktop {
- public:
-  explicit Desktop(const Options& options) {
-    gate_.setBeep([this] { platform_.beep(); });
-    gate_.setLastResort([this](const std::exception& fault) {
-      reporter_.report(base::Failure(base::ErrorNumber::internal, fault.what()));
-    });
-    const auto candidates = lifecycle::directoryCandidates(options.programDirectory);
-    const auto directory = lifecycle::programDirectory(candidates);
-    program_.paths.programDirectory = directory.path;
-    program_.createsDirectory = directory.isUsersOwn;
-    program_.information.directory = directory.path;
-    lifecycle::wire(program_, parts_);
-    offerWindows();
-    form_.restoreLayout();
-    if (options.exitAfterStartUp) form_.whenPainted([] { QCoreApplication::quit(); });
-    sync_.open(bound_);
-  }
+// The desktop's session asks while the program may still write.
+void endWithTheSession(Desktop& desktop) {
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &desktop,
+                   [&desktop](QSessionManager& /*session*/) { desktop.end(Desktop::Manner::quietly); });
+}
 
-  /// The load handler; what follows it runs in the event loop.
-  StartUp load() {
-    StartUp result = StartUp::ends;
-    gate_.userEvent([&] { result = lifecycle::load(program_, parts_); });
-    return result;
-  }
-
- private:
-  void offerWindows() {
-    platform_.offerWindow(program_.main.name, [this] { return ShownWindow{&form_, &bound_}; });
-    platform_.offerWindow(
-        program_.loading.name, [this] { return bound(program_.loading, *makeLoadingScreen(&form_)); },
-        QtPlatform::Appears::whenItTakesLonger);
-    platform_.offerWindow(program_.picker.name, [this] { return bound(program_.picker, *makePicker(&form_)); });
-  }
-
-  template <typename Model>
-  ShownWindow bound(Model& model, QDialog& dialog) {
-    return {.widget = &dialog, .bindings = &bind(model, dialog, program_.wiring, gate_, sync_)};
-  }
-
-  Gate gate_;
-  Sync sync_{gate_};
-  QtPlatform platform_{gate_, sync_};
-  Program program_;
-  errors::Reporter reporter_{platform_, program_.information};
-  MainForm form_;
-  commands::MainParts parts_ = lifecycle::mainParts(program_, platform_, form_.document(), reporter_);
-  BoundWindow& bound_ = form_.bindTo(program_.main, program_.wiring, gate_, sync_);
-};
+int run(const Options& options, const lifecycle::ProgramDirectory& directory) {
+  Desktop desktop(directory);
+  desktop.whenEnded([] { QCoreApplication::exit(0); });
+  if (options.exitAfterStartUp) desktop.mainForm().whenPainted([] { QCoreApplication::exit(0); });
+  const EndSignals endSignals([&desktop] { desktop.end(Desktop::Manner::quietly); });
+  endWithTheSession(desktop);
+  if (desktop.load() == lifecycle::StartUp::ends) return kExitNotStarted;
+  return QApplication::exec();
+}
 
 }  // namespace
 
@@ -122,9 +80,7 @@ int runApplication(int argc, char** argv) {
   // The loading screen goes before the main window comes; only closing that one ends the program.
   QApplication::setQuitOnLastWindowClosed(false);
   setUpAppearance(application);
-  Desktop desktop(*options);
-  if (desktop.load() == StartUp::ends) return kExitNotStarted;
-  return QApplication::exec();
+  return run(*options, lifecycle::programDirectory(lifecycle::directoryCandidates(options->programDirectory)));
 }
 
 }  // namespace ui

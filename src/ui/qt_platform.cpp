@@ -4,8 +4,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDateTime>
-#include <QDialog>
+#include <QFileDialog>
 #include <QFontDatabase>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
 #include <utility>
@@ -49,43 +50,33 @@ QMessageBox::StandardButtons buttons(base::MessageButtons buttons) {
   return QMessageBox::Ok;
 }
 
-base::MessageAnswer answer(int button) {
-  switch (button) {
-    case QMessageBox::Yes:
-      return base::MessageAnswer::yes;
-    case QMessageBox::No:
-      return base::MessageAnswer::no;
-    case QMessageBox::Cancel:
-      return base::MessageAnswer::cancel;
-    default:
-      return base::MessageAnswer::ok;
-  }
+// A box that goes without a button, as at the end of the program, has not been agreed to.
+base::MessageAnswer answer(int button, base::MessageButtons buttons) {
+  if (buttons == base::MessageButtons::ok) return base::MessageAnswer::ok;
+  if (button == QMessageBox::Yes) return base::MessageAnswer::yes;
+  const bool hasCancel = buttons == base::MessageButtons::yesNoCancel;
+  return hasCancel && button != QMessageBox::No ? base::MessageAnswer::cancel : base::MessageAnswer::no;
 }
 
-// Only dialogs are shown modally.
-QDialog& dialogOf(const ShownWindow& window) {
-  auto* const dialog = qobject_cast<QDialog*>(window.widget);
-  if (dialog == nullptr) throw base::Failure(base::ErrorNumber::internal);
-  return *dialog;
+// "Name|*.rtf|Alle|*.*" as the toolkit writes it: "Name (*.rtf);;Alle (*)". Patterns match in either case.
+QString nameFilters(const std::string& filter) {
+  QStringList result;
+  const QStringList parts = toQString(filter).split(QLatin1Char('|'));
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const QString name = parts[i].section(QStringLiteral(" ("), 0, 0);
+    const QString& pattern = parts[i + 1];
+    const QString both = pattern == QLatin1String("*.*") ? QStringLiteral("*") : pattern + ' ' + pattern.toUpper();
+    result += name + QStringLiteral(" (") + both + ')';
+  }
+  return result.join(QStringLiteral(";;"));
+}
+
+std::string chosen(const QString& path) {
+  if (path.isEmpty()) throw base::Failure(base::ErrorNumber::cancelled);
+  return toUtf8(path);
 }
 
 }  // namespace
-
-void QtPlatform::offerWindow(std::string_view name, std::function<ShownWindow()> build, Appears appears) {
-  windows_.insert_or_assign(std::string(name), Entry{.build = std::move(build), .appears = appears, .window = {}});
-}
-
-QtPlatform::Entry& QtPlatform::entryOf(const base::Window& window) {
-  const auto found = windows_.find(window.name);
-  if (found == windows_.end()) throw base::Failure(base::ErrorNumber::internal);
-  return found->second;
-}
-
-ShownWindow& QtPlatform::shown(const base::Window& window) {
-  Entry& entry = entryOf(window);
-  if (entry.window.widget == nullptr) entry.window = entry.build();
-  return entry.window;
-}
 
 base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
   const Gate::ModalWait wait(gate_);
@@ -93,59 +84,51 @@ base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
                   toQString(message.text).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n'),
                   buttons(message.buttons), QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
-  return answer(box.exec());
+  return answer(box.exec(), message.buttons);
 }
 
-void QtPlatform::showModal(base::Window& window) {
-  const ShownWindow& form = shown(window);
+std::optional<std::string> QtPlatform::inputBox(const base::InputQuestion& question) {
   const Gate::ModalWait wait(gate_);
-  sync_.open(*form.bindings);
-  dialogOf(form).exec();
-  sync_.close(*form.bindings);
+  bool isAnswered = false;
+  const QString line =
+      QInputDialog::getText(QApplication::activeWindow(), toQString(question.title), toQString(question.text),
+                            QLineEdit::Normal, toQString(question.suggestion), &isAnswered);
+  return isAnswered ? std::optional(toUtf8(line)) : std::nullopt;
 }
 
-// A window that is not modal asks first whether it may close, once the procedure that wants it has ended.
-void QtPlatform::close(base::Window& window) {
-  QWidget* const widget = shown(window).widget;
-  if (auto* const dialog = qobject_cast<QDialog*>(widget)) {
-    dialog->done(QDialog::Accepted);
-  } else {
-    QMetaObject::invokeMethod(widget, &QWidget::close, Qt::QueuedConnection);
-  }
+std::string QtPlatform::askOpenFile(const base::FileQuestion& question) {
+  const Gate::ModalWait wait(gate_);
+  return chosen(QFileDialog::getOpenFileName(QApplication::activeWindow(), toQString(question.title),
+                                             toQString(question.suggestion), nameFilters(question.filter)));
 }
 
-void QtPlatform::appear(Entry& entry) {
-  if (entry.window.widget == nullptr) entry.window = entry.build();
-  sync_.open(*entry.window.bindings);
-  entry.window.widget->show();
+std::string QtPlatform::askSaveFile(const base::FileQuestion& question) {
+  const Gate::ModalWait wait(gate_);
+  return chosen(QFileDialog::getSaveFileName(QApplication::activeWindow(), toQString(question.title),
+                                             toQString(question.suggestion), nameFilters(question.filter), nullptr,
+                                             QFileDialog::DontConfirmOverwrite));
 }
 
 void QtPlatform::show(base::Window& window) {
-  Entry& entry = entryOf(window);
   lastRefresh_ = std::chrono::steady_clock::now();
-  if (entry.appears == Appears::whenItTakesLonger) {
-    waiting_ = &entry;
-  } else {
-    appear(entry);
-  }
+  windows_.show(window);
 }
 
-void QtPlatform::hide(base::Window& window) {
-  Entry& entry = entryOf(window);
-  if (waiting_ == &entry) waiting_ = nullptr;
-  if (entry.window.widget == nullptr) return;
-  entry.window.widget->hide();
-  sync_.close(*entry.window.bindings);
-}
-
+// What comes during long work is seen by the input filter and dropped there; without the hourglass it waits outside.
 void QtPlatform::refresh() {
   constexpr std::chrono::milliseconds kFrame(16);
-  const auto moment = std::chrono::steady_clock::now();
-  if (moment - lastRefresh_ < kFrame) return;
-  if (waiting_ != nullptr) appear(*std::exchange(waiting_, nullptr));
+  if (std::chrono::steady_clock::now() - lastRefresh_ < kFrame) return;
+  windows_.showLateOnes();
   sync_.pass();
-  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+  QApplication::processEvents(gate_.isDropping()
+                                  ? QEventLoop::ProcessEventsFlags(QEventLoop::ExcludeSocketNotifiers)
+                                  : QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
   lastRefresh_ = std::chrono::steady_clock::now();
+}
+
+bool QtPlatform::escapePressed() {
+  refresh();
+  return input_.escapePressed();
 }
 
 base::DateTime QtPlatform::now() const {
@@ -180,11 +163,19 @@ void QtPlatform::saveUserSettings(const std::vector<base::UserSetting>& settings
 
 void QtPlatform::beep() { QApplication::beep(); }
 
+// What was typed ahead of the end of long work is dropped with it.
 void QtPlatform::setHourglass(base::Hourglass hourglass) {
   const bool wanted = hourglass == base::Hourglass::on;
-  if (wanted && !hasHourglass_) QApplication::setOverrideCursor(Qt::WaitCursor);
-  if (!wanted && hasHourglass_) QApplication::restoreOverrideCursor();
+  if (wanted == hasHourglass_) return;
   hasHourglass_ = wanted;
+  if (wanted) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    input_.forgetEscape();
+  } else {
+    if (gate_.isDropping()) QApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
+    QApplication::restoreOverrideCursor();
+  }
+  gate_.setWorking(wanted);
 }
 
 base::NumberFormat QtPlatform::numberFormat() const { return qtcore::userNumberFormat(); }

@@ -1,12 +1,10 @@
-// The world as the desktop shows it: message boxes, modal windows, sound, pointer, locale and typefaces.
+// The world as the desktop shows it: boxes, windows, sound, pointer, locale and typefaces.
 //
 // Everything that shows something or lets events through carries what the logic has written to the screen first, so
 // that what stood there before an error is visible behind its message.
 #pragma once
 
 #include <chrono>
-#include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,35 +12,29 @@
 
 #include "base/platform.h"
 #include "ui/binding/gate.h"
+#include "ui/binding/input_filter.h"
 #include "ui/binding/sync.h"
-
-class QWidget;
+#include "ui/shown_windows.h"
 
 namespace ui {
 
-/// A window on the screen with the bindings that keep it in step with its model.
-struct ShownWindow {
-  QWidget* widget = nullptr;  // a QDialog where it is to be modal
-  Carrier* bindings = nullptr;
-};
-
 class QtPlatform : public base::Platform {
  public:
-  QtPlatform(Gate& gate, Sync& sync) : gate_(gate), sync_(sync) {}
-
-  /// When a window that is shown comes to the screen: a loading screen only when there is something to wait for.
-  enum class Appears { atOnce, whenItTakesLonger };
-  /// How the window named `name` is built; it is built on first use and kept.
-  void offerWindow(std::string_view name, std::function<ShownWindow()> build, Appears appears = Appears::atOnce);
+  QtPlatform(Gate& gate, Sync& sync, InputFilter& input, ShownWindows& windows)
+      : gate_(gate), sync_(sync), input_(input), windows_(windows) {}
 
   base::MessageAnswer messageBox(const base::Message& message) override;
-  void showModal(base::Window& window) override;
-  void close(base::Window& window) override;
+  std::optional<std::string> inputBox(const base::InputQuestion& question) override;
+  std::string askOpenFile(const base::FileQuestion& question) override;
+  std::string askSaveFile(const base::FileQuestion& question) override;
+  void showModal(base::Window& window) override { windows_.showModal(window); }
   void show(base::Window& window) override;
-  void hide(base::Window& window) override;
+  void close(base::Window& window) override { windows_.requestClose(window); }
+  void hide(base::Window& window) override { windows_.hide(window); }
   void refresh() override;
-  void beep() override;
+  bool escapePressed() override;
   void setHourglass(base::Hourglass hourglass) override;
+  void beep() override;
   [[nodiscard]] base::DateTime now() const override;
   [[nodiscard]] int screenWidth() const override;
   [[nodiscard]] base::SystemInformation systemInformation() const override;
@@ -56,20 +48,11 @@ class QtPlatform : public base::Platform {
   [[nodiscard]] std::vector<std::string> fontFamilies() const override;
 
  private:
-  struct Entry {
-    std::function<ShownWindow()> build;
-    Appears appears;
-    ShownWindow window;
-  };
-  Entry& entryOf(const base::Window& window);
-  void appear(Entry& entry);
-  ShownWindow& shown(const base::Window& window);
-
   Gate& gate_;
   Sync& sync_;
-  std::map<std::string, Entry, std::less<>> windows_;
+  InputFilter& input_;
+  ShownWindows& windows_;
   bool hasHourglass_ = false;
-  Entry* waiting_ = nullptr;  // shown, but not on the screen yet
   std::chrono::steady_clock::time_point lastRefresh_;
 };
 

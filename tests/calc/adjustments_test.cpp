@@ -104,7 +104,7 @@ TEST(Adjustments, ThePickerSelectsTheSameRowOfTheComboBox) {
   settings::AdjustmentList& surcharges = desk.program.settings.adjustments.surcharges;
   surcharges = entries({{"10 %", "Eilzuschlag"}, {"", "leer"}, {"5.00 EUR", ""}});
   calc::fillAdjustments(desk.window.cboAufpreis, surcharges);
-  calc::PickerWindow& picker = desk.program.picker;
+  calc::PickerWindow& picker = desk.program.windows.picker;
 
   desk.platform.expectModal("frmAuswahlAR", [&](base::Window& window) {
     EXPECT_EQ(window.caption, "Auswahl Aufpreise");
@@ -132,8 +132,8 @@ TEST(Adjustments, ThePickerShowsOnlyTheFixedRowWhenSlotOneIsEmpty) {
   desk.program.settings.adjustments.discounts = entries({{"", ""}, {"5 %", "x"}});
   desk.platform.expectModal("frmAuswahlAR", [&](base::Window& window) {
     EXPECT_EQ(window.caption, "Auswahl Rabatte");
-    EXPECT_EQ(desk.program.picker.lstAuswahl.items.size(), 1);
-    desk.program.wiring.fire(desk.program.picker.lstAuswahl, Event::keyEscape);
+    EXPECT_EQ(desk.program.windows.picker.lstAuswahl.items.size(), 1);
+    desk.program.wiring.fire(desk.program.windows.picker.lstAuswahl, Event::keyEscape);
   });
   desk.click(desk.window.cmdRabatteListe);
 }

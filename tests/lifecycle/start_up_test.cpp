@@ -186,8 +186,8 @@ TEST(StartUp, TheLoadingScreenTellsEachStageAndItsBarFillsUp) {
   std::string stages;
   int last = 0;
   session.platform.onRefresh = [&] {
-    const base::ProgressBar& bar = session.program.loading.Progress1;
-    const std::string& status = session.program.loading.lblStatus.text;
+    const base::ProgressBar& bar = session.program.windows.loading.Progress1;
+    const std::string& status = session.program.windows.loading.lblStatus.text;
     if (!stages.ends_with(status)) {
       stages += " " + std::to_string(last) + "|" + std::to_string(bar.maximum) + " " + status;
       last = 0;

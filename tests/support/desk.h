@@ -1,18 +1,18 @@
-// A whole program at a test's desk: its windows, a document in memory, a scripted world.
+// A whole program at a test's desk, assembled as everywhere, in a scripted world.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
-#include "base/memory_rich_text.h"
-#include "lifecycle/program.h"
-#include "lifecycle/wire.h"
+#include "lifecycle/assembly.h"
 #include "support/scripted_platform.h"
 
 namespace support {
 
 struct Desk {
-  Desk() { lifecycle::wire(program, parts); }
+  /// Without a directory the program keeps no error log.
+  explicit Desk(const lifecycle::ProgramDirectory& directory = {}) : owned(lifecycle::assemble(platform, directory)) {}
 
   /// Lets the program offer these heights at these prices and selects the first.
   void offerHeights(const std::vector<std::pair<std::string, std::string>>& heightsAndPrices);
@@ -24,11 +24,11 @@ struct Desk {
   void click(const base::Control& control) { program.wiring.fire(control, base::Event::click); }
 
   ScriptedPlatform platform;
-  base::MemoryRichText document{};
-  errors::Reporter reporter{platform};
-  lifecycle::Program program;
-  commands::MainParts parts = lifecycle::mainParts(program, platform, document, reporter);
-  frame::MainWindow& window = program.main;
+  std::unique_ptr<lifecycle::Program> owned;
+  lifecycle::Program& program = *owned;
+  commands::MainParts parts = lifecycle::partsOf(program);
+  frame::MainWindow& window = program.windows.main;
+  base::RichTextBox& document = window.rtfText;
 };
 
 }  // namespace support

@@ -41,15 +41,17 @@ base::MessageAnswer ScriptedPlatform::messageBox(const base::Message& message) {
 void ScriptedPlatform::showModal(base::Window& window) {
   const Question question = next(std::string(window.name));
   EXPECT_EQ(question.window, window.name);
-  open_ = &window;
+  const std::size_t outer = open_.size();
+  open_.push_back(&window);
   if (question.whileOpen) question.whileOpen(window);
-  EXPECT_EQ(open_, nullptr) << window.name << " was left open";
-  open_ = nullptr;
+  EXPECT_EQ(open_.size(), outer) << window.name << " was left open";
+  open_.resize(outer);
 }
 
 void ScriptedPlatform::close(base::Window& window) {
-  EXPECT_EQ(open_, &window);
-  open_ = nullptr;
+  ASSERT_FALSE(open_.empty()) << window.name;
+  EXPECT_EQ(open_.back(), &window);
+  open_.pop_back();
 }
 
 std::optional<std::string> ScriptedPlatform::userSetting(std::string_view key) const {

@@ -36,6 +36,7 @@ class ScriptedPlatform : public base::Platform {
   int width = 1280;
   std::string clipboard;
   int beeps = 0;
+  bool escape = false;  // was pressed
   base::Hourglass hourglass = base::Hourglass::off;
   base::NumberFormat format;
   std::vector<std::string> families = {"Arial", "DejaVu Sans"};
@@ -51,6 +52,7 @@ class ScriptedPlatform : public base::Platform {
   void refresh() override {
     if (onRefresh) onRefresh();
   }
+  bool escapePressed() override { return refresh(), escape; }
   void beep() override { ++beeps; }
   [[nodiscard]] base::DateTime now() const override { return moment; }
   [[nodiscard]] int screenWidth() const override { return width; }
@@ -79,7 +81,7 @@ class ScriptedPlatform : public base::Platform {
   Question next(const std::string& asked);
 
   std::deque<Question> expected_;
-  base::Window* open_ = nullptr;
+  std::vector<base::Window*> open_;  // the modal windows, the newest last
 };
 
 }  // namespace support

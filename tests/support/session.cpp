@@ -6,15 +6,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "lifecycle/wire.h"
-
 namespace support {
-
-Session::Session(const TemporaryDirectory& directory) {
-  program.paths.programDirectory = directory.path("");
-  program.information.directory = directory.path("");
-  lifecycle::wire(program, parts);
-}
 
 void Session::expectFailure(std::string text) {
   platform.expectMessage({.text = std::move(text), .title = "Fehler", .icon = base::MessageIcon::stop});
@@ -22,8 +14,8 @@ void Session::expectFailure(std::string text) {
 
 void Session::start() {
   ASSERT_EQ(load(), lifecycle::StartUp::goesOn);
-  ASSERT_TRUE(program.main.tmrLoad.running);
-  program.wiring.fire(program.main.tmrLoad, base::Event::tick);
+  ASSERT_TRUE(window.tmrLoad.running);
+  program.wiring.fire(window.tmrLoad, base::Event::tick);
 }
 
 std::map<std::string, std::string> filesOf(const TemporaryDirectory& directory) {

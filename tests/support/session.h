@@ -6,33 +6,24 @@
 #include <string>
 #include <vector>
 
-#include "base/memory_rich_text.h"
-#include "lifecycle/program.h"
 #include "lifecycle/start_up.h"
-#include "support/scripted_platform.h"
+#include "support/desk.h"
 #include "support/temporary_directory.h"
 
 namespace support {
 
-struct Session {
+struct Session : Desk {
   /// In `directory`, which outlives the session.
-  explicit Session(const TemporaryDirectory& directory);
+  explicit Session(const TemporaryDirectory& directory) : Desk({.path = directory.path("")}) {}
 
   /// Expects that a failure is shown with this text.
   void expectFailure(std::string text);
   /// The load handler.
-  lifecycle::StartUp load() { return lifecycle::load(program, parts); }
+  lifecycle::StartUp load() { return lifecycle::load(program); }
   /// The load handler and, as it lets the program go on, what tmrLoad does.
   void start();
   /// The main window closes.
-  void end() { program.wiring.fire(program.main, base::Event::closing); }
-
-  ScriptedPlatform platform;
-  base::MemoryRichText document{};
-  lifecycle::Program program;
-  errors::Reporter reporter{platform, program.information};
-  commands::MainParts parts = lifecycle::mainParts(program, platform, document, reporter);
-  frame::MainWindow& window = program.main;
+  void end() { program.wiring.fire(window, base::Event::closing); }
 };
 
 /// The names in a directory with the bytes of each file; a directory counts as an empty file.

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "sample_window.h"
-#include "ui/binding/input_guard.h"
 
 namespace ui {
 namespace {
@@ -40,21 +39,11 @@ TEST(Binder, BindsAFormAgainAfterItsWindowWasBuiltAnew) {
   sample.show();
   {
     SampleForm second;
-    sample.sync.open(bind(sample.model, second, sample.wiring, sample.gate, sample.sync));
+    sample.sync.open(bind(sample.model, second, Context{sample.wiring, sample.gate}, sample.sync));
     EXPECT_EQ(second.height.text(), "50 mm");
   }
   sample.run([&] { sample.model.lblHöhe.text = "60 mm"; });  // the form that is gone is no longer carried
   EXPECT_EQ(sample.form.height.text(), "60 mm");
-}
-
-TEST(InputGuard, KeepsTypedTextFromAWidgetThatIsItsOwnModel) {
-  Sample sample;
-  sample.show();
-  QLineEdit document;
-  new InputGuard(sample.gate, document);
-  sample.run([&] { QTest::keyClicks(&document, "ab"); });
-  QTest::keyClicks(&document, "c");
-  EXPECT_EQ(document.text(), "c");
 }
 
 }  // namespace

@@ -242,5 +242,24 @@ TEST(Timer, WaitsForTheProcedureThatRuns) {
   EXPECT_EQ(sample.fired, Names{"tick"});
 }
 
+// As behind a message box of its own, and after its procedure has hidden the window.
+TEST(Timer, TicksForAHiddenWindowButNotBehindItsOwnBox) {
+  Sample sample;
+  base::Timer& timer = sample.model.tmrUhr;
+  sample.wiring.on(timer, Event::tick, [&] {
+    sample.fired.emplace_back("tick");
+    const Gate::ModalWait box(sample.gate);
+    QTest::qWait(20);
+    EXPECT_EQ(sample.fired, Names{"tick"});
+    timer.running = false;
+  });
+  sample.show();
+  sample.run([&] {
+    timer = {true, 1};
+    sample.form.hide();
+  });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !sample.fired.empty(); }));
+}
+
 }  // namespace
 }  // namespace ui

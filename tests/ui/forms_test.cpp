@@ -1,7 +1,6 @@
 // Every form against its model: a named widget without a control or a control without a widget fails here.
 #include <gtest/gtest.h>
 
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -13,31 +12,21 @@
 #include <string>
 #include <vector>
 
-#include "calc/picker.h"
-#include "frame/main_window.h"
-#include "lifecycle/loading_window.h"
+#include "lifecycle/windows.h"
 #include "ui/binding/binder.h"
-#include "ui/forms/dialogs.h"
+#include "ui/forms/form_table.h"
 #include "ui/forms/main_form.h"
 
 namespace {
 
 const std::vector<std::string> kNone;
 
-TEST(Forms, TheMainWindowDrawsEveryControlAndNothingElse) {
-  frame::MainWindow window;
-  ui::MainForm form;
-  EXPECT_EQ(ui::mismatches(window, form, {"rtfText", "frmMain"}), kNone);
-}
-
-TEST(Forms, TheDialogsDrawEveryControlAndNothingElse) {
-  calc::PickerWindow picker;
-  const std::unique_ptr<QDialog> pickerForm(ui::makePicker(nullptr));
-  EXPECT_EQ(ui::mismatches(picker, *pickerForm), kNone);
-
-  lifecycle::LoadingWindow loading;
-  const std::unique_ptr<QDialog> loadingForm(ui::makeLoadingScreen(nullptr));
-  EXPECT_EQ(ui::mismatches(loading, *loadingForm), kNone);
+TEST(Forms, EachWindowDrawsEveryControlAndNothingElse) {
+  lifecycle::Windows windows;
+  windows.eachWindow([](auto& window) {
+    const std::unique_ptr<QWidget> form(ui::formOf(window.name).build(nullptr));
+    EXPECT_EQ(ui::mismatches(window, *form), kNone) << window.name;
+  });
 }
 
 // Whoever cannot see the window hears what each field is for.

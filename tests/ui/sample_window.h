@@ -24,6 +24,7 @@
 #include "base/controls.h"
 #include "base/wiring.h"
 #include "ui/binding/binder.h"
+#include "ui/binding/timers.h"
 #include "ui/widgets/program_style.h"
 
 namespace ui {
@@ -117,12 +118,14 @@ struct Sample {
     return key == U'.' || (key >= U'0' && key <= U'9') ? std::optional(key) : std::nullopt;
   }
 
-  /// Binds and shows the window; the wiring is complete by then.
+  /// Binds and shows the window.
   void show() {
     QApplication::setStyle(new ProgramStyle);
     gate.setBeep([this] { ++beeps; });
     gate.setLastResort([this](const std::exception& failure) { failures.emplace_back(failure.what()); });
-    BoundWindow& bound = bind(model, form, wiring, gate, sync);
+    BoundWindow& bound = bind(model, form, Context{wiring, gate}, sync);
+    timers.take(model);
+    sync.open(timers);
     sync.open(bound);
     form.show();
     QApplication::setActiveWindow(&form);
@@ -145,6 +148,7 @@ struct Sample {
   base::Wiring wiring;
   Gate gate;
   Sync sync{gate};
+  Timers timers{Context{wiring, gate}};
   SampleForm form;
 };
 

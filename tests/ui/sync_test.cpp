@@ -31,7 +31,7 @@ TEST(Sync, TouchesAWidgetOnlyWhenItsModelHasChanged) {
 
 TEST(Sync, LeavesAClosedWindowAloneUntilItIsOpenAgain) {
   Sample sample;
-  BoundWindow& bound = bind(sample.model, sample.form, sample.wiring, sample.gate, sample.sync);
+  BoundWindow& bound = bind(sample.model, sample.form, Context{sample.wiring, sample.gate}, sample.sync);
   sample.run([&] { sample.model.lblHöhe.text = "50 mm"; });
   EXPECT_EQ(sample.form.height.text(), "");
   sample.sync.open(bound);

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "ui/binding/binding_list.h"
+#include "ui/binding/binding_rich_text.h"
 #include "ui/binding/binding_simple.h"
 #include "ui/binding/binding_text.h"
 #include "ui/utf8.h"
@@ -93,19 +94,29 @@ std::unique_ptr<Binding> makeBinding(base::ProgressBar& model, QObject& shown, c
   return fits ? bindingTo<ProgressBinding, QWidget>(model, shown, context) : nullptr;
 }
 
+std::unique_ptr<Binding> makeBinding(base::Tabs& model, QObject& shown, const Context& context) {
+  return bindingTo<TabsBinding, QTabWidget>(model, shown, context);
+}
+
+std::unique_ptr<Binding> makeBinding(base::Picture& model, QObject& shown, const Context& context) {
+  return bindingTo<PictureBinding, QWidget>(model, shown, context);
+}
+
+std::unique_ptr<Binding> makeBinding(base::RichTextBox& model, QObject& shown, const Context& context) {
+  return bindingTo<RichTextBinding, RichTextEdit>(model, shown, context);
+}
+
 BoundWindow::BoundWindow(base::Window& model, QWidget& form, const Context& context, Sync& sync)
     : QObject(&form), context_(context), sync_(sync) {
   for (QObject* object : form.findChildren<QObject*>()) {
+    // Designer draws a separator as an action with this property.
+    if (auto* action = qobject_cast<QAction*>(object)) action->setSeparator(action->property("separator").toBool());
     const bool canShow = object->isWidgetType() || qobject_cast<QAction*>(object) != nullptr;
     if (!canShow || isFurniture(object->objectName())) continue;
     const auto [place, isNew] = unbound_.emplace(toUtf8(object->objectName()), object);
     if (!isNew) faults_.push_back(place->first + ": the form draws it twice");
   }
   bindings_.push_back(std::make_unique<WindowBinding>(model, form, context));
-}
-
-void BoundWindow::tie(std::string_view /*name*/, base::Timer& model) {
-  bindings_.push_back(std::make_unique<TimerBinding>(model, context_));
 }
 
 QObject* BoundWindow::take(std::string_view name) {
@@ -137,12 +148,6 @@ std::vector<std::string> BoundWindow::mismatches(const std::set<std::string>& bo
     if (!boundElsewhere.contains(name)) lines.push_back(name + ": no control of that name");
   }
   return lines;
-}
-
-std::function<void()> firing(const base::Wiring& wiring, Gate& gate, base::EventSource source, base::Event event) {
-  return [&wiring, &gate, source, event] {
-    if (!gate.isWriting()) gate.userEvent([&] { wiring.fire(source, event); });
-  };
 }
 
 }  // namespace ui

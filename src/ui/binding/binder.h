@@ -7,7 +7,6 @@
 #include <QObject>
 #include <QString>
 #include <QWidget>
-#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -16,6 +15,7 @@
 #include <vector>
 
 #include "base/controls.h"
+#include "base/rich_text_box.h"
 #include "base/wiring.h"
 #include "ui/binding/binding.h"
 #include "ui/binding/gate.h"
@@ -34,6 +34,9 @@ std::unique_ptr<Binding> makeBinding(base::CheckBox& model, QObject& shown, cons
 std::unique_ptr<Binding> makeBinding(base::OptionButton& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::MenuEntry& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::ProgressBar& model, QObject& shown, const Context& context);
+std::unique_ptr<Binding> makeBinding(base::Tabs& model, QObject& shown, const Context& context);
+std::unique_ptr<Binding> makeBinding(base::Picture& model, QObject& shown, const Context& context);
+std::unique_ptr<Binding> makeBinding(base::RichTextBox& model, QObject& shown, const Context& context);
 
 /// The bindings of one window. Belongs to the form and dies with it; the model, the wiring, the gate and the sync
 /// outlive both.
@@ -46,7 +49,7 @@ class BoundWindow : public QObject, public Carrier {
   void tie(std::string_view name, Kind& model) {
     if (QObject* shown = take(name)) add(name, makeBinding(model, *shown, context_));
   }
-  void tie(std::string_view name, base::Timer& model);
+  void tie(std::string_view /*name*/, base::Timer& /*model*/) {}  // the program's own, see Timers
   void tie(std::string_view /*name*/, base::HiddenList& /*model*/) {}
 
   void carry() override;
@@ -68,8 +71,8 @@ class BoundWindow : public QObject, public Carrier {
 
 /// Ties `model`, a base::Window with `eachControl`, to `form`. Sync::open then starts to carry it.
 template <typename Model>
-BoundWindow& bind(Model& model, QWidget& form, const base::Wiring& wiring, Gate& gate, Sync& sync) {
-  auto* bound = new BoundWindow(model, form, Context{wiring, gate}, sync);
+BoundWindow& bind(Model& model, QWidget& form, const Context& context, Sync& sync) {
+  auto* bound = new BoundWindow(model, form, context, sync);
   model.eachControl([bound](std::string_view name, auto& control) { bound->tie(name, control); });
   return *bound;
 }
@@ -80,11 +83,8 @@ std::vector<std::string> mismatches(Model& model, QWidget& form, const std::set<
   Gate gate;
   Sync sync(gate);
   const base::Wiring wiring;
-  const std::unique_ptr<BoundWindow> bound(&bind(model, form, wiring, gate, sync));
+  const std::unique_ptr<BoundWindow> bound(&bind(model, form, Context{wiring, gate}, sync));
   return bound->mismatches(boundElsewhere);
 }
-
-/// What a signal of a rich-text widget shall call: lets the user's event in and fires it.
-std::function<void()> firing(const base::Wiring& wiring, Gate& gate, base::EventSource source, base::Event event);
 
 }  // namespace ui

@@ -3,6 +3,7 @@
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
+#include <QTextDocument>
 #include <QVariant>
 #include <utility>
 
@@ -43,11 +44,16 @@ bool isUsersChoice(Qt::FocusReason reason) {
 
 }  // namespace
 
-DrawnText::DrawnText(QObject& shown, const char* property)
-    : shown_(shown), property_(property), drawn_(shown.property(property).toString()) {}
+QString plainToolTip(const std::string& text) {
+  const QString shown = toQString(text);
+  return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal) : shown;
+}
+
+DrawnText::DrawnText(QObject& shown, const char* property, AsShown asShown)
+    : shown_(shown), property_(property), asShown_(asShown), drawn_(shown.property(property).toString()) {}
 
 void DrawnText::carry(const std::string& text) {
-  if (text_.follow(text)) shown_.setProperty(property_, text.empty() ? drawn_ : toQString(text));
+  if (text_.follow(text)) shown_.setProperty(property_, text.empty() ? drawn_ : asShown_(text));
 }
 
 void Binding::userChange(const Gate::Procedure& take) {
@@ -61,7 +67,15 @@ bool Binding::answers(Event event) {
   return true;
 }
 
+bool Binding::answersCharacter(const QKeyEvent& key) {
+  if (!context_.wiring.handlesKeys(source_) || key.text().isEmpty()) return false;
+  bool isUsed = false;
+  context_.gate.userEvent([&] { isUsed = context_.wiring.fireKey(source_, key.text().toUcs4().first()); });
+  return isUsed;
+}
+
 bool Binding::answersKeyDown(const QKeyEvent& key) {
+  if (answersCharacter(key)) return true;
   const auto own = eventOf(key);
   return own && answers(*own);
 }
@@ -105,7 +119,7 @@ bool Binding::eventFilter(QObject* watched, QEvent* event) {
 }
 
 ControlBinding::ControlBinding(base::Control& control, QObject& shown, const Context& context)
-    : Binding(control, context), control_(control), shown_(shown), toolTip_(shown, "toolTip") {
+    : Binding(control, context), control_(control), shown_(shown), toolTip_(shown, "toolTip", plainToolTip) {
   shown.installEventFilter(this);
 }
 

@@ -43,15 +43,20 @@ class Shown {
   std::optional<T> value_;
 };
 
+/// `text` as a tool tip that shows it as it stands, whatever it looks like.
+QString plainToolTip(const std::string& text);
+
 /// A text property of which the empty text stands for the one that the form draws.
 class DrawnText {
  public:
-  DrawnText(QObject& shown, const char* property);
+  using AsShown = QString (*)(const std::string& text);
+  DrawnText(QObject& shown, const char* property, AsShown asShown);
   void carry(const std::string& text);
 
  private:
   QObject& shown_;
   const char* property_;
+  AsShown asShown_;
   QString drawn_;
   Shown<std::string> text_{std::string()};
 };
@@ -76,6 +81,7 @@ class Binding : public QObject, public Carrier {
   /// Runs what is wired to `event`, if the gate lets it in; false when nothing is wired.
   bool answers(base::Event event);
   bool answersKeyDown(const QKeyEvent& key);
+  bool answersCharacter(const QKeyEvent& key);
   void answerKeyUp(const QKeyEvent& key);
   void answerLeaving(const QFocusEvent& focus);
 

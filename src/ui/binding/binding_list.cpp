@@ -62,8 +62,10 @@ bool RowsModel::carry() {
 }
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
-  if ((role != Qt::DisplayRole && role != Qt::EditRole) || !rows_.holds(index.row())) return {};
-  return toQString(rows_[index.row()]);
+  if (!rows_.holds(index.row())) return {};
+  if (role == Qt::DisplayRole || role == Qt::EditRole) return toQString(rows_[index.row()]);
+  if (role == Qt::ToolTipRole && tip_) return plainToolTip(tip_(index.row()));
+  return {};
 }
 
 ComboBinding::ComboBinding(base::ComboBox& model, QComboBox& widget, const Context& context)
@@ -83,7 +85,7 @@ void ComboBinding::makeEditable(QLineEdit& edit) {
   // The toolkit's own completion would show a text that the model does not have.
   if (widget_.metaObject() == &QComboBox::staticMetaObject) widget_.setCompleter(nullptr);
   edit.installEventFilter(this);
-  if (context().wiring.hasFilter(model_)) filter_ = std::make_unique<FilteredLine>(model_, edit, widget_, context());
+  filter_ = std::make_unique<FilteredLine>(model_, edit, widget_, context());
   connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) { take(toUtf8(text)); });
   connect(&edit, &QLineEdit::textChanged, this, &ComboBinding::adopt);
 }
@@ -98,7 +100,6 @@ void ComboBinding::choose(int index) {
 }
 
 void ComboBinding::take(const std::string& text) {
-  if (text == model_.text) return;
   userChange([this, &text] {
     model_.text = text;
     model_.selected = -1;
@@ -151,7 +152,9 @@ ListBinding::ListBinding(base::ListBox& model, QListView& widget, const Context&
   widget.setEditTriggers(QAbstractItemView::NoEditTriggers);
   widget.setModel(&rows_);
   widget.viewport()->installEventFilter(this);
+  rows_.setTip([this](int row) { return this->context().wiring.tipOf(model_, row); });
   connect(&widget, &QListView::clicked, this, &ListBinding::click);
+  connect(&widget, &QListView::doubleClicked, this, [this] { userChange([this] { fire(Event::doubleClick); }); });
   const QItemSelectionModel* selection = widget.selectionModel();
   connect(selection, &QItemSelectionModel::currentChanged, this, &ListBinding::take);
   connect(selection, &QItemSelectionModel::selectionChanged, this, &ListBinding::take);

@@ -17,6 +17,8 @@ class RowsModel : public QAbstractListModel {
  public:
   explicit RowsModel(const base::ItemList& rows) : rows_(rows) {}
 
+  /// Where the tool tip of a row comes from; an empty one is none.
+  void setTip(base::Wiring::RowTip tip) { tip_ = std::move(tip); }
   /// Shows the rows as they are now; false when they have not changed.
   bool carry();
 
@@ -27,6 +29,7 @@ class RowsModel : public QAbstractListModel {
   const base::ItemList& rows_;
   int count_ = 0;  // as carried last; the rows may already be fewer
   Shown<std::uint64_t> revision_;
+  base::Wiring::RowTip tip_;
 };
 
 class ComboBinding : public BindingOf<base::ComboBox, QComboBox> {

@@ -1,10 +1,12 @@
-// The bindings of labels, buttons, check boxes, menu entries and progress bars, of timers and of windows themselves.
+// The bindings of labels, buttons, check boxes, menu entries and progress bars, tabs and pictures, and of windows
+// themselves.
 #include "ui/binding/binding_simple.h"
 
 #include <QAction>
 #include <QEvent>
 #include <QMetaProperty>
 #include <QVariant>
+#include <QWindow>
 
 #include "ui/utf8.h"
 
@@ -19,6 +21,8 @@ const char* textProperty(const QObject& bar) {
   const QMetaObject& type = *bar.metaObject();
   return type.property(type.indexOfProperty("text")).isWritable() ? "text" : "format";
 }
+
+QString asText(const std::string& text) { return toQString(text); }
 
 WindowState stateOf(const QWidget& form) {
   if (form.isMinimized()) return WindowState::minimised;
@@ -51,7 +55,7 @@ void LabelBinding::showColour() {
 }
 
 CommandBinding::CommandBinding(base::Control& model, const std::string& text, QObject& shown, const Context& context)
-    : ControlBinding(model, shown, context), text_(text), shownText_(shown, "text") {
+    : ControlBinding(model, shown, context), text_(text), shownText_(shown, "text", asText) {
   const auto click = [this] { userChange([this] { fire(Event::click); }); };
   if (auto* button = qobject_cast<QAbstractButton*>(&shown)) connect(button, &QAbstractButton::clicked, this, click);
   if (auto* action = qobject_cast<QAction*>(&shown)) connect(action, &QAction::triggered, this, click);
@@ -59,7 +63,11 @@ CommandBinding::CommandBinding(base::Control& model, const std::string& text, QO
 
 SwitchBinding::SwitchBinding(base::Control& model, bool& isOn, const std::string* text, QObject& shown,
                              const Context& context)
-    : ControlBinding(model, shown, context), isOn_(isOn), text_(text), shown_(shown), shownText_(shown, "text") {
+    : ControlBinding(model, shown, context),
+      isOn_(isOn),
+      text_(text),
+      shown_(shown),
+      shownText_(shown, "text", asText) {
   shown.setProperty("checkable", QVariant(true));
   // Switching comes before the click, and for an option button also to the one that is thereby switched off.
   const auto click = [this] { userChange([this] { fire(Event::click); }); };
@@ -86,7 +94,7 @@ void SwitchBinding::carryOwn() {
 }
 
 ProgressBinding::ProgressBinding(base::ProgressBar& model, QWidget& widget, const Context& context)
-    : BindingOf(model, widget, context), text_(widget, textProperty(widget)) {}
+    : BindingOf(model, widget, context), text_(widget, textProperty(widget), asText) {}
 
 void ProgressBinding::carryOwn() {
   if (range_.follow({model_.minimum, model_.maximum})) {
@@ -98,45 +106,57 @@ void ProgressBinding::carryOwn() {
   text_.carry(model_.text);
 }
 
-TimerBinding::TimerBinding(base::Timer& model, const Context& context) : Binding(model, context), model_(model) {
-  connect(&timer_, &QTimer::timeout, this, &TimerBinding::tick);
-}
-
-void TimerBinding::tick() {
-  isWaiting_ = model_.running && !context().gate.timerEvent([this] {
-    isWaiting_ = false;
-    fire(Event::tick);
+TabsBinding::TabsBinding(base::Tabs& model, QTabWidget& widget, const Context& context)
+    : BindingOf(model, widget, context) {
+  connect(&widget, &QTabWidget::currentChanged, this, [this](int index) {
+    userChange([this, index] {
+      model_.current = index;
+      current_.follow(index);
+      fire(Event::click);
+    });
   });
 }
 
-void TimerBinding::carry() {
-  if (shown_.follow(model_)) {
-    timer_.stop();
-    if (model_.running && model_.intervalMilliseconds > 0) timer_.start(model_.intervalMilliseconds);
-  }
-  if (isWaiting_) QTimer::singleShot(0, this, &TimerBinding::tickAtLast);
-}
-
-void TimerBinding::tickAtLast() {
-  if (isWaiting_) tick();
+void TabsBinding::carryOwn() {
+  if (current_.follow(model_.current)) widget_.setCurrentIndex(model_.current);
 }
 
 WindowBinding::WindowBinding(base::Window& model, QWidget& form, const Context& context)
-    : Binding(model, context), model_(model), form_(form), caption_(form, "windowTitle") {
+    : Binding(model, context), model_(model), form_(form), caption_(form, "windowTitle", asText) {
   form.installEventFilter(this);
 }
 
 void WindowBinding::carry() {
   caption_.carry(model_.caption);
   if (state_.follow(model_.state)) form_.setWindowState(withState(form_.windowState(), model_.state));
+  if (staysOnTop_.follow(model_.staysOnTop)) carryFlags();
+}
+
+// Setting the flag on the widget would hide the window and make a new one.
+void WindowBinding::carryFlags() {
+  form_.overrideWindowFlags(form_.windowFlags().setFlag(Qt::WindowStaysOnTopHint, model_.staysOnTop));
+  if (QWindow* const handle = form_.windowHandle()) handle->setFlags(form_.windowFlags());
 }
 
 bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::WindowStateChange) {
-    model_.state = stateOf(form_);
-    state_.follow(model_.state);
+  switch (event->type()) {
+    case QEvent::WindowStateChange:
+      model_.state = stateOf(form_);
+      state_.follow(model_.state);
+      return false;
+    case QEvent::Close:
+      if (mayClose(model_, context())) return false;
+      event->ignore();
+      return true;
+    default:
+      return Binding::eventFilter(watched, event);
   }
-  return Binding::eventFilter(watched, event);
+}
+
+bool mayClose(base::Window& window, const Context& context) {
+  window.keepsOpen = false;
+  const bool isAsked = context.gate.userEvent([&] { context.wiring.fire(window, Event::closing); });
+  return isAsked && !window.keepsOpen;
 }
 
 }  // namespace ui

@@ -1,10 +1,11 @@
-// The bindings of labels, buttons, check boxes, menu entries and progress bars, of timers and of windows themselves.
+// The bindings of labels, buttons, check boxes, menu entries and progress bars, tabs and pictures, and of windows
+// themselves.
 #pragma once
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QPalette>
-#include <QTimer>
+#include <QTabWidget>
 
 #include "ui/binding/binding.h"
 
@@ -66,24 +67,32 @@ class ProgressBinding : public BindingOf<base::ProgressBar, QWidget> {
   DrawnText text_;
 };
 
-/// A tick that falls into a running procedure waits for the pass that follows it.
-class TimerBinding : public Binding {
+/// The cards of a QTabWidget.
+class TabsBinding : public BindingOf<base::Tabs, QTabWidget> {
  public:
-  TimerBinding(base::Timer& model, const Context& context);
-
-  void carry() override;
+  TabsBinding(base::Tabs& model, QTabWidget& widget, const Context& context);
 
  private:
-  void tick();
-  void tickAtLast();
+  void carryOwn() override;
+  void distrust() override { current_.forget(); }
 
-  base::Timer& model_;
-  QTimer timer_;
-  Shown<base::Timer> shown_;
-  bool isWaiting_ = false;
+  Shown<int> current_;
 };
 
-/// Caption and state of a window, and the keys and clicks that none of its controls has used.
+/// What is only there or not.
+class PictureBinding : public BindingOf<base::Picture, QWidget> {
+ public:
+  PictureBinding(base::Picture& model, QWidget& widget, const Context& context) : BindingOf(model, widget, context) {}
+
+ private:
+  void carryOwn() override {}
+};
+
+/// Runs what is wired to the closing of `window`; false when that or a running procedure refuses.
+bool mayClose(base::Window& window, const Context& context);
+
+/// Caption, state and place in front of a window, whether it may close, and the keys and clicks that none of its
+/// controls has used.
 class WindowBinding : public Binding {
  public:
   WindowBinding(base::Window& model, QWidget& form, const Context& context);
@@ -92,11 +101,13 @@ class WindowBinding : public Binding {
 
  private:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void carryFlags();
 
   base::Window& model_;
   QWidget& form_;
   DrawnText caption_;
   Shown<base::WindowState> state_;
+  Shown<bool> staysOnTop_{false};
 };
 
 }  // namespace ui

@@ -14,12 +14,12 @@ using base::Event;
 
 LineBinding::LineBinding(base::TextBox& model, QLineEdit& widget, const Context& context)
     : BindingOf(model, widget, context) {
-  if (context.wiring.hasFilter(model)) filter_ = std::make_unique<FilteredLine>(model, widget, widget, context);
+  filter_ = std::make_unique<FilteredLine>(model, widget, widget, context);
   connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { take(toUtf8(text)); });
 }
 
+// Also when the text is the same in the end: a key that replaces it is a key like any other.
 void LineBinding::take(const std::string& text) {
-  if (text == model_.text) return;
   userChange([this, &text] {
     model_.text = text;
     text_.follow(text);
@@ -45,7 +45,7 @@ LinesBinding::LinesBinding(base::TextBox& model, QPlainTextEdit& widget, const C
 void LinesBinding::take() {
   // The raw text still tells a no-break space from a blank.
   const QString text = widget_.document()->toRawText();
-  if (context().gate.isWriting() || text == before_ || correct(text)) return;
+  if (context().gate.isWriting() || text == before_) return;
   before_ = text;
   const std::string lines = base::withWindowsLineEnds(toUtf8(text));
   if (lines == model_.text) return;
@@ -54,22 +54,6 @@ void LinesBinding::take() {
     text_.follow(lines);
     fire(Event::changed);
   });
-}
-
-bool LinesBinding::correct(const QString& text) {
-  if (!context().wiring.hasFilter(model_) || widget_.document()->isRedoAvailable()) return false;
-  QTextCursor cursor = widget_.textCursor();
-  const InsertedPiece piece = insertedPiece(before_, text, cursor.position());
-  const std::string typed = toUtf8(piece.text);
-  const auto taken = context().wiring.filtered(model_, typed);
-  if (taken.refused) context().gate.beep();
-  if (taken.text == typed) return false;
-  cursor.joinPreviousEditBlock();
-  cursor.setPosition(static_cast<int>(piece.start));
-  cursor.setPosition(static_cast<int>(piece.start + piece.text.size()), QTextCursor::KeepAnchor);
-  cursor.insertText(toQString(taken.text));
-  cursor.endEditBlock();
-  return true;
 }
 
 void LinesBinding::carryOwn() {

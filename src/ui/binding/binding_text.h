@@ -23,6 +23,7 @@ class LineBinding : public BindingOf<base::TextBox, QLineEdit> {
   std::unique_ptr<FilteredLine> filter_;
 };
 
+/// Takes no key filter.
 class LinesBinding : public BindingOf<base::TextBox, QPlainTextEdit> {
  public:
   LinesBinding(base::TextBox& model, QPlainTextEdit& widget, const Context& context);
@@ -31,8 +32,6 @@ class LinesBinding : public BindingOf<base::TextBox, QPlainTextEdit> {
   void carryOwn() override;
   void distrust() override { text_.forget(); }
   void take();
-  /// Corrects what was just inserted, as part of the same step of undo; false when there was nothing to correct.
-  bool correct(const QString& text);
 
   Shown<std::string> text_;
   QString before_;

@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QTimer>
+#include <algorithm>
 
 #include "ui/utf8.h"
 
@@ -13,6 +14,29 @@ namespace {
 bool isTyped(const QKeyEvent& key) {
   const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier & ~Qt::ShiftModifier;
   return modifiers != Qt::ControlModifier && !key.text().isEmpty() && key.text().front().isPrint();
+}
+
+/// What an edit has put into a text.
+struct InsertedPiece {
+  qsizetype start = 0;    // where the two texts begin to differ
+  qsizetype removed = 0;  // how much of the old text went
+  QString text;           // what came instead
+};
+
+/// How far two texts agree from their beginnings, at most up to `limit`.
+template <typename Iterator>
+qsizetype agreement(Iterator left, Iterator right, qsizetype limit) {
+  return std::mismatch(left, left + limit, right).first - left;
+}
+
+/// `caret` is the caret's place after the edit: what stands behind it was not inserted.
+InsertedPiece insertedPiece(const QString& before, const QString& after, qsizetype caret) {
+  const qsizetype shorter = std::min(before.size(), after.size());
+  const qsizetype behind =
+      agreement(before.crbegin(), after.crbegin(), std::min(shorter, std::max(after.size() - caret, qsizetype{0})));
+  qsizetype start = agreement(before.cbegin(), after.cbegin(), shorter - behind);
+  if (start > 0 && after.at(start - 1).isHighSurrogate()) --start;  // half a character is none
+  return {start, before.size() - behind - start, after.mid(start, after.size() - behind - start)};
 }
 
 }  // namespace
@@ -32,8 +56,8 @@ std::optional<QString> FilteredLine::replacement(const QString& typed) const {
   return toQString(taken.text);
 }
 
-bool FilteredLine::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress || edit_.isReadOnly()) return QObject::eventFilter(watched, event);
+bool FilteredLine::eventFilter(QObject* /*watched*/, QEvent* event) {
+  if (event->type() != QEvent::KeyPress || edit_.isReadOnly() || !isFiltered()) return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);
   if (!isTyped(key)) return false;
   const auto instead = replacement(key.text());
@@ -43,7 +67,7 @@ bool FilteredLine::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QValidator::State FilteredLine::validate(QString& text, int& caret) const {
-  if (context_.gate.isWriting() || edit_.isRedoAvailable()) return Acceptable;
+  if (!isFiltered() || context_.gate.isWriting() || edit_.isRedoAvailable()) return Acceptable;
   const InsertedPiece piece = insertedPiece(before_, text, caret);
   const auto instead = replacement(piece.text);
   if (!instead) return Acceptable;

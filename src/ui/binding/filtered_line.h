@@ -9,7 +9,6 @@
 #include <QValidator>
 
 #include "ui/binding/binding.h"
-#include "ui/binding/inserted_piece.h"
 
 namespace ui {
 
@@ -22,6 +21,7 @@ class FilteredLine : public QValidator {
 
  private:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  [[nodiscard]] bool isFiltered() const { return context_.wiring.hasFilter(box_); }
   /// What the filter leaves of `typed`; nothing when it leaves it as it is.
   [[nodiscard]] std::optional<QString> replacement(const QString& typed) const;
 

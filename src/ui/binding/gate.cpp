@@ -1,6 +1,8 @@
 // The one door through which events enter the procedures.
 #include "ui/binding/gate.h"
 
+#include <utility>
+
 namespace ui {
 
 Gate::ModalWait::ModalWait(Gate& gate) : gate_(gate), wasBusy_(gate.isBusy_) {
@@ -11,9 +13,12 @@ Gate::ModalWait::ModalWait(Gate& gate) : gate_(gate), wasBusy_(gate.isBusy_) {
 bool Gate::run(const Procedure& procedure) noexcept {
   if (!isOpen()) return false;
   isBusy_ = true;
+  ++depth_;
   guarded(procedure);
+  --depth_;
   isBusy_ = false;
   guarded(afterEvent_);
+  guarded(whenFree_);
   return true;
 }
 
@@ -22,7 +27,10 @@ void Gate::guarded(const Procedure& procedure) noexcept {
   try {
     procedure();
   } catch (const std::exception& failure) {
-    if (lastResort_) lastResort_(failure);
+    // Telling it lets events through, and so may fail in the same way again.
+    if (!lastResort_ || std::exchange(isFailing_, true)) return;
+    lastResort_(failure);
+    isFailing_ = false;
   }
 }
 

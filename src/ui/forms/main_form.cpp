@@ -1,8 +1,6 @@
 // The main window on the screen.
 #include "ui/forms/main_form.h"
 
-#include <QCloseEvent>
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
@@ -11,7 +9,6 @@
 #include <utility>
 
 #include "ui/appearance.h"
-#include "ui/binding/input_guard.h"
 #include "ui/user_settings.h"
 #include "ui_main_window.h"
 
@@ -49,7 +46,7 @@ void makePaperWhite(QWidget& paper) {
 
 }  // namespace
 
-MainForm::MainForm() : drawn_(drawnOn(*this)), document_(*drawn_->rtfText) {
+MainForm::MainForm() : drawn_(drawnOn(*this)) {
   // Labels of our own in the status bar instead of showMessage(), which every status tip would overwrite.
   drawn_->fixStatus->addWidget(drawn_->lblZeile);
   drawn_->fixStatus->addPermanentWidget(drawn_->lblHinweis);
@@ -72,20 +69,6 @@ void MainForm::fitToScreen() {
   resize(size().boundedTo(available * kShareOfSmallScreen));
 }
 
-BoundWindow& MainForm::bindTo(frame::MainWindow& window, const base::Wiring& wiring, Gate& gate, Sync& sync) {
-  RichTextEdit* const edit = drawn_->rtfText;
-  connect(edit, &RichTextEdit::edited, this, firing(wiring, gate, document_, base::Event::changed));
-  connect(edit, &RichTextEdit::caretMoved, this, firing(wiring, gate, document_, base::Event::selected));
-  connect(edit, &RichTextEdit::released, this, firing(wiring, gate, document_, base::Event::released));
-  new InputGuard(gate, *edit);  // belongs to what it guards
-  new InputGuard(gate, *edit->viewport());
-  mayClose_ = [&window, &wiring, &gate] {
-    window.keepsOpen = false;
-    return gate.userEvent([&] { wiring.fire(window, base::Event::closing); }) && !window.keepsOpen;
-  };
-  return bind(window, *this, wiring, gate, sync);
-}
-
 void MainForm::restoreLayout() {
   if (const auto geometry = storedBytes(kGeometryKey)) restoreGeometry(*geometry);
   setWindowState(Qt::WindowNoState);  // maximised only when the program's own key says so
@@ -95,13 +78,6 @@ void MainForm::restoreLayout() {
 void MainForm::saveLayout() const {
   storeBytes(kGeometryKey, saveGeometry());
   storeBytes(kSplitterKey, drawn_->fixTeiler->saveState());
-}
-
-void MainForm::closeEvent(QCloseEvent* event) {
-  event->setAccepted(!mayClose_ || mayClose_());
-  if (!event->isAccepted()) return;
-  saveLayout();
-  QCoreApplication::quit();
 }
 
 void MainForm::paintEvent(QPaintEvent* event) {

@@ -1,0 +1,39 @@
+// What a platform without a desktop answers.
+#include "base/platform.h"
+
+#include "base/failure.h"
+
+namespace base {
+namespace {
+
+[[noreturn]] void notAvailable() {
+  throw Failure(ErrorNumber::deviceUnavailable, "Das ist hier nicht verfügbar: Dafür braucht Tessik einen Bildschirm.");
+}
+
+}  // namespace
+
+MessageAnswer Platform::messageBox(const Message& /*message*/) { notAvailable(); }
+std::optional<std::string> Platform::inputBox(const InputQuestion& /*question*/) { notAvailable(); }
+std::string Platform::askOpenFile(const FileQuestion& /*question*/) { notAvailable(); }
+std::string Platform::askSaveFile(const FileQuestion& /*question*/) { notAvailable(); }
+void Platform::showModal(Window& /*window*/) { notAvailable(); }
+void Platform::show(Window& /*window*/) { notAvailable(); }
+void Platform::close(Window& /*window*/) { notAvailable(); }
+void Platform::hide(Window& /*window*/) { notAvailable(); }
+void Platform::refresh() { notAvailable(); }
+bool Platform::escapePressed() { notAvailable(); }
+void Platform::setHourglass(Hourglass /*hourglass*/) { notAvailable(); }
+void Platform::beep() { notAvailable(); }
+DateTime Platform::now() const { notAvailable(); }
+int Platform::screenWidth() const { notAvailable(); }
+SystemInformation Platform::systemInformation() const { notAvailable(); }
+std::string Platform::systemRoot() const { notAvailable(); }
+std::string Platform::clipboardText() const { notAvailable(); }
+void Platform::setClipboardText(std::string_view /*text*/) { notAvailable(); }
+std::optional<std::string> Platform::userSetting(std::string_view /*key*/) const { notAvailable(); }
+void Platform::saveUserSettings(const std::vector<UserSetting>& /*settings*/) { notAvailable(); }
+NumberFormat Platform::numberFormat() const { notAvailable(); }
+std::string Platform::composed(std::string_view /*text*/) const { notAvailable(); }
+std::vector<std::string> Platform::fontFamilies() const { notAvailable(); }
+
+}  // namespace base

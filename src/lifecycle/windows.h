@@ -1,0 +1,31 @@
+// All windows of the program, each named once.
+#pragma once
+
+#include <utility>
+
+#include "calc/picker.h"
+#include "frame/main_window.h"
+#include "lifecycle/loading_window.h"
+
+namespace lifecycle {
+
+// clang-format off
+#define TESSIK_WINDOWS(WINDOW)          \
+  WINDOW(frame::MainWindow, main)       \
+  WINDOW(LoadingWindow, loading)        \
+  WINDOW(calc::PickerWindow, picker)
+// clang-format on
+
+#define TESSIK_DECLARE_WINDOW(Kind, name) Kind name;
+#define TESSIK_VISIT_WINDOW(Kind, name) visit(name);
+
+struct Windows {
+  TESSIK_WINDOWS(TESSIK_DECLARE_WINDOW)
+
+  template <typename Visitor>
+  void eachWindow(Visitor&& visit) {
+    TESSIK_WINDOWS(TESSIK_VISIT_WINDOW)
+  }
+};
+
+}  // namespace lifecycle

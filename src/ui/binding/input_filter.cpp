@@ -1,0 +1,75 @@
+// The filter that keeps input from the widgets while a procedure runs.
+#include "ui/binding/input_filter.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+namespace ui {
+namespace {
+
+bool isInput(QEvent::Type type) {
+  switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::TabletPress:
+    case QEvent::TouchBegin:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+    case QEvent::Close:
+      return true;
+    default:
+      return false;
+  }
+}
+
+// What tells nobody anything later: an answer that is wanted now, or a place that the pointer has left.
+bool isOfTheMoment(QEvent::Type type) {
+  return type == QEvent::ShortcutOverride || type == QEvent::MouseMove || type == QEvent::DragEnter ||
+         type == QEvent::DragMove || type == QEvent::Drop;
+}
+
+bool isRelease(QEvent::Type type) {
+  return type == QEvent::KeyRelease || type == QEvent::MouseButtonRelease || type == QEvent::TouchEnd;
+}
+
+bool isEscape(const QEvent& event) {
+  return event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
+}  // namespace
+
+InputFilter::InputFilter(const Gate& gate) : gate_(gate) { QCoreApplication::instance()->installEventFilter(this); }
+
+bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
+  const bool followsHeld = isRelease(event->type()) && !held_.empty();
+  if (gate_.isOpen() || gate_.isWriting() || !(isInput(event->type()) || followsHeld)) return false;
+  // A widget that closes is closed by the program; the person closes windows.
+  if (event->type() == QEvent::Close && !watched->isWindowType()) return false;
+  if (!gate_.isDropping() && !isOfTheMoment(event->type())) held_.emplace_back(watched, event->clone());
+  drop(*event);
+  return true;
+}
+
+void InputFilter::drop(QEvent& event) {
+  if (gate_.isDropping() && isEscape(event)) escapePressed_ = true;
+  // An accepted override keeps shortcuts from acting; a window whose closing is ignored stays.
+  event.setAccepted(event.type() == QEvent::ShortcutOverride);
+}
+
+void InputFilter::release() {
+  while (!held_.empty() && gate_.isOpen()) {
+    const auto [receiver, event] = std::move(held_.front());
+    held_.pop_front();
+    if (receiver != nullptr) QCoreApplication::sendEvent(receiver, event.get());
+  }
+}
+
+}  // namespace ui

@@ -1,0 +1,66 @@
+// The input filter: what is typed and clicked while a procedure runs.
+#include "ui/binding/input_filter.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+namespace ui {
+namespace {
+
+struct InputFilterTest : testing::Test {
+  InputFilterTest() {
+    gate.setWhenFree([this] { filter.release(); });
+    QObject::connect(&button, &QPushButton::clicked, [this] { ++clicks; });
+  }
+
+  /// Types and clicks as somebody does who does not wait.
+  void hurry() {
+    QTest::keyClicks(&edit, "a");
+    QTest::keyClick(&edit, Qt::Key_Escape);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::keyClicks(&edit, "b");
+  }
+
+  Gate gate;
+  InputFilter filter{gate};
+  QLineEdit edit;
+  QPushButton button;
+  int clicks = 0;
+};
+
+TEST_F(InputFilterTest, HoldsBackWhatComesDuringAShortProcedureAndLosesNothing) {
+  gate.userEvent([this] {
+    for (int i = 0; i < 100; ++i) QTest::keyClicks(&edit, "x");
+    hurry();
+    EXPECT_EQ(edit.text(), "");
+    const Gate::ModalWait box(gate);
+    QTest::keyClicks(&edit, "!");
+    EXPECT_EQ(edit.text(), "!");
+  });
+  EXPECT_EQ(edit.text(), "!" + QString(100, 'x') + "ab");
+  EXPECT_EQ(clicks, 1);
+  EXPECT_FALSE(button.isDown() || filter.escapePressed());
+}
+
+TEST_F(InputFilterTest, DropsWhatComesDuringLongWorkButNotesEscape) {
+  gate.userEvent([this] {
+    gate.setWorking(true);
+    filter.forgetEscape();
+    EXPECT_FALSE(filter.escapePressed());
+    hurry();
+    EXPECT_TRUE(filter.escapePressed());
+    gate.setWorking(false);
+  });
+  EXPECT_EQ(edit.text(), "");
+  EXPECT_EQ(clicks, 0);
+  hurry();
+  EXPECT_EQ(edit.text(), "ab");
+  EXPECT_EQ(clicks, 1);
+}
+
+}  // namespace
+}  // namespace ui
