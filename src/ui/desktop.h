@@ -40,6 +40,7 @@ class Desktop : public QObject {
 
   /// Runs `procedure` as one of the program's, with the sync pass behind it: for measurements.
   void run(const Gate::Procedure& procedure) { gate_.userEvent(procedure); }
+  [[nodiscard]] QtPlatform& platform() { return platform_; }
   [[nodiscard]] MainForm& mainForm() { return mainForm_; }
   [[nodiscard]] lifecycle::Program& program() { return *program_; }
 

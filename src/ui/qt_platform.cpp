@@ -161,7 +161,7 @@ std::optional<std::string> QtPlatform::userSetting(std::string_view key) const {
 
 void QtPlatform::saveUserSettings(const std::vector<base::UserSetting>& settings) { storeUserSettings(settings); }
 
-void QtPlatform::beep() { QApplication::beep(); }
+void QtPlatform::beep() { bell_ ? bell_() : QApplication::beep(); }
 
 // What was typed ahead of the end of long work is dropped with it.
 void QtPlatform::setHourglass(base::Hourglass hourglass) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +23,9 @@ class QtPlatform : public base::Platform {
  public:
   QtPlatform(Gate& gate, Sync& sync, InputFilter& input, ShownWindows& windows)
       : gate_(gate), sync_(sync), input_(input), windows_(windows) {}
+
+  /// Another sound for refused actions than the desktop's.
+  void setBell(std::function<void()> bell) { bell_ = std::move(bell); }
 
   base::MessageAnswer messageBox(const base::Message& message) override;
   std::optional<std::string> inputBox(const base::InputQuestion& question) override;
@@ -52,6 +56,7 @@ class QtPlatform : public base::Platform {
   Sync& sync_;
   InputFilter& input_;
   ShownWindows& windows_;
+  std::function<void()> bell_;
   bool hasHourglass_ = false;
   std::chrono::steady_clock::time_point lastRefresh_;
 };

@@ -27,12 +27,11 @@ QDialog& dialogOf(QWidget& widget) {
 
 }  // namespace
 
-// The bindings first: they give the texts of the widgets back to their models.
+// The bindings first: they give the texts of the widgets back to their models. The main window, which the others belong
+// to, goes last.
 ShownWindows::~ShownWindows() {
   for (const auto& entry : entries_) delete entry->bindings;
-  for (const auto& entry : entries_) {
-    if (entry->widget != nullptr && entry->widget->parent() == nullptr) delete entry->widget;
-  }
+  for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) delete (*entry)->widget;
 }
 
 ShownWindows::Entry& ShownWindows::entryOf(const base::Window& model) {

@@ -1,0 +1,124 @@
+// A walk through the program as it is composed for the desktop.
+#include "walk.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QSettings>
+#include <QTextEdit>
+#include <filesystem>
+#include <utility>
+
+#include "ui/utf8.h"
+
+namespace ui {
+namespace {
+
+constexpr int kPatience = 5000;  // milliseconds until what never comes is missed
+
+QWidget& focused() {
+  QWidget* const widget = QApplication::focusWidget();
+  return widget != nullptr ? *widget : *QApplication::activeWindow();
+}
+
+}  // namespace
+
+Premises::Premises() {
+  std::filesystem::create_directory(data);
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(directory.path("config")));
+}
+
+void Premises::write(const std::string& name, std::string_view bytes) const { directory.write("daten/" + name, bytes); }
+
+Walk::Walk(const Premises& premises, const std::function<void(Walk&)>& expectations) {
+  QObject::connect(&person_, &QTimer::timeout, [this] { answerQuestions(); });
+  person_.start(1);
+  if (expectations) expectations(*this);
+  desktop = std::make_unique<Desktop>(lifecycle::ProgramDirectory{.path = premises.data});
+  desktop->platform().setBell([this] { ++beeps; });
+  EXPECT_EQ(desktop->load(), lifecycle::StartUp::goesOn);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return desktop->mainForm().isVisible(); }, kPatience));
+  QApplication::setActiveWindow(&desktop->mainForm());
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop->mainForm(), kPatience));
+}
+
+Walk::~Walk() { EXPECT_TRUE(expected_.empty()) << expected_.size() << " questions never asked"; }
+
+// One modal window after the other, each by the next of what is expected; an unexpected one fails and is closed.
+void Walk::answerQuestions() {
+  auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (dialog == nullptr || isActing_ || !dialog->isVisible()) return;
+  if (expected_.empty()) {
+    const auto* const box = qobject_cast<QMessageBox*>(dialog);
+    ADD_FAILURE() << "not expected: " << toUtf8(box != nullptr ? box->text() : dialog->windowTitle());
+    dialog->done(QDialog::Rejected);
+    return;
+  }
+  const auto act = std::move(expected_.front());
+  expected_.pop_front();
+  isActing_ = true;
+  act(*dialog);
+  isActing_ = false;
+}
+
+void Walk::expectBox(const QString& text, QMessageBox::StandardButton button) {
+  whenAsked([text, button](QDialog& dialog) {
+    auto* const box = qobject_cast<QMessageBox*>(&dialog);
+    ASSERT_NE(box, nullptr) << toUtf8(dialog.windowTitle());
+    EXPECT_TRUE(box->text().contains(text)) << toUtf8(box->text());
+    ASSERT_NE(box->button(button), nullptr) << toUtf8(box->text());
+    QTest::mouseClick(static_cast<QWidget*>(box->button(button)), Qt::LeftButton);
+  });
+}
+
+std::string Walk::text(const char* name) {
+  QWidget& shown = widget<QWidget>(name);
+  if (const auto* const combo = qobject_cast<QComboBox*>(&shown)) return toUtf8(combo->currentText());
+  if (const auto* const document = qobject_cast<QTextEdit*>(&shown)) return toUtf8(document->toPlainText());
+  return toUtf8(shown.property("text").toString());
+}
+
+void Walk::click(const char* name) {
+  QTest::mouseClick(&widget<QWidget>(name), Qt::LeftButton);
+  settle();
+}
+
+void Walk::type(const QString& text) {
+  for (const char32_t key : text.toUcs4()) {
+    QTest::sendKeyEvent(QTest::Click, &focused(), Qt::Key_unknown, QString::fromUcs4(&key, 1), Qt::NoModifier);
+  }
+  settle();
+}
+
+void Walk::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  // By way of the window, so that shortcuts act as well.
+  QWidget& window = *focused().window();
+  QTest::keyClick(window.windowHandle(), key, modifiers);
+  settle();
+}
+
+void Walk::fill(const char* name, const QString& text) {
+  click(name);
+  press(Qt::Key_A, Qt::ControlModifier);
+  type(text);
+}
+
+void Walk::choose(const char* name, int row) {
+  auto& box = widget<QComboBox>(name);
+  box.setFocus(Qt::TabFocusReason);
+  press(Qt::Key_Home);
+  for (int i = 0; i < row; ++i) press(Qt::Key_Down);
+}
+
+std::string Walk::focus() {
+  const QWidget* const widget = QApplication::focusWidget();
+  return widget == nullptr ? std::string() : toUtf8(widget->objectName());
+}
+
+void Walk::close() {
+  QMetaObject::invokeMethod(&desktop->mainForm(), &QWidget::close, Qt::QueuedConnection);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return desktop->hasEnded(); }, kPatience));
+}
+
+void Walk::settle() { QCoreApplication::processEvents(); }
+
+}  // namespace ui

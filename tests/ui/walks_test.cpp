@@ -1,0 +1,215 @@
+// Walks through the whole program, keys and clicks alone: what runs here is what people run.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QListView>
+#include <filesystem>
+#include <string>
+
+#include "walk.h"
+
+namespace ui {
+namespace {
+
+constexpr std::string_view kGeneral =
+    "[Einstellungen]\r\nMwst=16\r\nMaßeinheit=mm\r\nIndex1=2\r\nIndex2=2\r\nTVorn=0\r\nLZ=1\r\nSnd=x.wav\r\n";
+constexpr std::string_view kLists =
+    "[Einstellungen]\r\nIndexp1=1\r\nIndexp2=0\r\n[Rabatte]\r\n10 %\r\n5.00 EUR\r\n[RabatteTip]\r\nEil\r\nWeg\r\n"
+    "[Rabatte2]\r\n3 %\r\n2 %\r\n[RabatteTip2]\r\nStamm\r\nBar\r\n";
+constexpr std::string_view kPrices = "[Versalien]\r\n0=20\r\n1=50\r\n[Preise]\r\n0=1,00\r\n1=2,00\r\n";
+
+/// A shop that has been set up: prices, surcharges and discounts, and a version that has started before.
+struct Shop : Premises {
+  Shop() {
+    write("Ostrowerk.ini", kGeneral);
+    write("Tessik.ini", kLists);
+    write("Tessik.pdb", kPrices);
+    std::filesystem::create_directories(directory.path("config/Tessik"));
+    directory.write("config/Tessik/Tessik.conf", "[Prog]\nVersion=1.4\nWinState=0\n");
+  }
+};
+
+TEST(Walk, AFirstStartAsksNothingAndPricesWhatIsTyped) {
+  const Premises premises;
+  {
+    Walk walk(premises);
+    walk.close();
+  }
+  EXPECT_NE(premises.file("Ostrowerk.ini").find("Mwst=16"), std::string::npos);
+  EXPECT_NE(premises.userStore().find("Version=1.4"), std::string::npos);
+}
+
+TEST(Walk, AnOrderIsPricedKeyByKeyAndTheSettingsOutliveTheProgram) {
+  const Shop shop;
+  {
+    Walk walk(shop);
+    EXPECT_EQ(Walk::focus(), "rtfText");
+    walk.type("Bäckerei");
+    EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "8,00 EUR");
+    walk.choose("cboBuchstabenhöhe", 1);
+    EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "16,00 EUR");
+    walk.fill("txtStück", "2,5x");
+    EXPECT_EQ(walk.text("txtStück"), "25");
+    EXPECT_EQ(walk.beeps, 2);
+    EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "400,00 EUR");
+    walk.fill("txtStück", "3");
+    EXPECT_EQ(walk.text("lblBruttoGesamt"), "55,68 EUR");
+    walk.close();
+  }
+  EXPECT_NE(shop.file("Ostrowerk.ini").find("Index1=2\r\n"), std::string::npos);
+  EXPECT_NE(shop.file("Tessik.ini").find("[RabatteTip2]\r\nStamm\r\nBar\r\n"), std::string::npos);
+  Walk again(shop);
+  again.type("AB");
+  EXPECT_EQ(again.text("lblPreisNettoGesamt"), "2,00 EUR");
+  again.close();
+}
+
+// 8 characters at 10 pieces of 1.00: a net price of 80.00.
+TEST(Walk, TheFourAmountBoxesTakeWhatTheyMayAndKeepInStep) {
+  const Shop shop;
+  Walk walk(shop);
+  EXPECT_FALSE(walk.enabled("txtProzent") || walk.enabled("cboAufpreis") || walk.enabled("cmdRabatteListe"));
+  walk.type("Bäckerei");
+  EXPECT_TRUE(walk.enabled("txtProzent") && walk.enabled("cboAufpreis") && walk.enabled("cmdRabatteListe"));
+  walk.fill("txtStück", "10");
+  walk.fill("txtProzent", "1-2,5%a");
+  EXPECT_EQ(walk.text("txtProzent") + " " + walk.text("txtProzentDM"), "12.5 10.00");
+  EXPECT_EQ(walk.beeps, 3);
+  EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "90,00 EUR");
+  walk.press(Qt::Key_Return);
+  EXPECT_EQ(Walk::focus(), "txtRabatt");
+  QApplication::clipboard()->setText("2,5 %");
+  walk.press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(walk.text("txtRabatt") + " " + walk.text("txtRabattDM"), "2.5 2.00");
+  walk.press(Qt::Key_Enter);
+  EXPECT_EQ(Walk::focus(), "txtProzentDM");
+  walk.type("20");
+  EXPECT_EQ(walk.text("txtProzent") + " " + walk.text("lblPreisNettoGesamt"), "25.00 98,00 EUR");
+  walk.press(Qt::Key_Return);
+  EXPECT_EQ(Walk::focus(), "txtRabattDM");
+  walk.press(Qt::Key_Backspace);
+  EXPECT_EQ(walk.text("txtRabattDM") + " " + walk.text("txtRabatt"), "0.00 0.00");
+  walk.press(Qt::Key_Return);
+  EXPECT_EQ(Walk::focus(), "txtProzent");
+
+  // The lettering grows; the same percentage typed over itself is priced anew.
+  walk.fill("txtProzent", "5");
+  walk.fill("rtfText", "Bäckereien");
+  walk.fill("txtProzent", "5");
+  EXPECT_EQ(walk.text("txtProzentDM"), "5.00");
+  walk.close();
+}
+
+TEST(Walk, SurchargesAndDiscountsAreChosenFromTheirListsAndPickers) {
+  const Shop shop;
+  Walk walk(shop);
+  walk.type("Bäckerei");
+  walk.choose("cboAufpreis", 1);
+  EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "8,80 EUR");
+  EXPECT_EQ(walk.widget<QWidget>("cboAufpreis").toolTip(), "10 % (Eil)");
+
+  const auto rowOf = [](QDialog& dialog, int row) {
+    auto* const list = dialog.findChild<QListView*>("lstAuswahl");
+    return std::pair(list, list->visualRect(list->model()->index(row, 0)).center());
+  };
+  walk.whenAsked([&](QDialog& picker) {
+    EXPECT_EQ(picker.windowTitle(), "Auswahl Rabatte");
+    const auto [list, place] = rowOf(picker, 1);
+    EXPECT_EQ(list->model()->index(1, 0).data().toString(), "3 % -> Stamm");
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+  });
+  walk.click("cmdRabatteListe");
+  EXPECT_EQ(walk.text("cboRabatt") + " " + walk.text("lblPreisNettoGesamt"), "3 % 8,56 EUR");
+  EXPECT_EQ(walk.text("lblcboChange1") + walk.text("lblcboChange2"), "21");
+
+  const std::function<void(QDialog&)> leavings[] = {
+      [](QDialog& picker) { QTest::keyClick(picker.focusWidget(), Qt::Key_Escape); },
+      [&](QDialog& picker) { QTest::mouseClick(rowOf(picker, 0).first->viewport(), Qt::RightButton); },
+      [](QDialog& picker) { picker.close(); },
+  };
+  for (const auto& leave : leavings) {
+    walk.whenAsked(leave);
+    walk.click("cmdAufpreisListe");
+    EXPECT_EQ(walk.text("cboAufpreis") + " " + walk.text("lblPreisNettoGesamt"), "10 % 8,56 EUR");
+  }
+  walk.whenAsked([](QDialog& picker) {
+    QTest::keyClick(picker.focusWidget(), Qt::Key_Down);
+    QTest::keyClick(picker.focusWidget(), Qt::Key_Return);
+  });
+  walk.click("cmdAufpreisListe");
+  EXPECT_EQ(walk.text("cboAufpreis"), "5.00 EUR");
+  walk.close();
+}
+
+TEST(Walk, AnAmountByHandJoinsTheRunningSum) {
+  const Shop shop;
+  Walk walk(shop);
+  walk.fill("txtAddPerHand", "12,5x");
+  EXPECT_EQ(walk.beeps, 1);
+  walk.press(Qt::Key_Return);
+  walk.fill("txtAddPerHand", "-2,25");
+  walk.click("cmdAddPerHand");
+  const auto* const entries = walk.widget<QListView>("cboCalc").model();
+  ASSERT_EQ(entries->rowCount(), 2);
+  EXPECT_EQ(entries->index(0, 0).data().toString() + " " + entries->index(1, 0).data().toString(),
+            "12.50 EUR -2.25 EUR");
+  EXPECT_EQ(walk.text("lblRCalc"), "10,25 EUR");
+  walk.close();
+}
+
+TEST(Walk, DamagedSettingsAreToldAndKeptAndTheProgramGoesOn) {
+  const Shop shop;
+  shop.write("Ostrowerk.ini", "[Einstellungen]\r\nMwst=viel\r\n");
+  std::filesystem::remove(shop.data + "/Tessik.ini");
+  Walk walk(shop, [](Walk& expecting) {
+    expecting.expectBox("Soll eine neue Tessik.ini erstell werden?", QMessageBox::Yes);
+    expecting.expectBox("Mwst", QMessageBox::Ok);
+  });
+  walk.type("AB");
+  EXPECT_EQ(walk.text("lblMwstG1"), "Mwst. 16 %");
+  walk.close();
+  EXPECT_EQ(shop.file("Ostrowerk.ini.1"), "[Einstellungen]\r\nMwst=viel\r\n");
+  EXPECT_NE(shop.file("Ostrowerk.ini").find("Mwst=16"), std::string::npos);
+}
+
+TEST(Walk, ARefusedSettingsFileEndsTheProgramBeforeItsWindow) {
+  const Shop shop;
+  std::filesystem::remove(shop.data + "/Tessik.ini");
+  QTimer::singleShot(0, [] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    QTest::mouseClick(static_cast<QWidget*>(box->button(QMessageBox::No)), Qt::LeftButton);
+  });
+  Desktop desktop({.path = shop.data});
+  EXPECT_EQ(desktop.load(), lifecycle::StartUp::ends);
+  EXPECT_FALSE(desktop.mainForm().isVisible());
+  EXPECT_FALSE(std::filesystem::exists(shop.data + "/Tessik.ini"));
+}
+
+// The end that the desktop demands comes while a dialog is open: the dialog goes, its procedure comes to its end, and
+// what the session leaves behind is written.
+TEST(Walk, TheDesktopEndsTheProgramBehindAnOpenDialog) {
+  const Shop shop;
+  Walk walk(shop);
+  walk.type("AB");
+  walk.whenAsked([&](QDialog& picker) {
+    walk.desktop->end(Desktop::Manner::quietly);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picker.isVisible(); }));
+  });
+  walk.click("cmdAufpreisListe");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return walk.desktop->hasEnded(); }));
+  EXPECT_NE(shop.userStore().find("SndPfad="), std::string::npos);
+}
+
+TEST(Walk, ExitEndsTheProgramLikeItsCloseButton) {
+  const Shop shop;
+  Walk walk(shop);
+  walk.press(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return walk.desktop->hasEnded(); }));
+  EXPECT_NE(shop.userStore().find("SndPfad="), std::string::npos);
+}
+
+}  // namespace
+}  // namespace ui
