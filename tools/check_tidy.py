@@ -8,9 +8,13 @@ Usage: check_tidy.py BUILD-DIRECTORY [--all]; ends with 1 when something is foun
 """
 
 import concurrent.futures
+import json
 import os
+import pathlib
+import re
 import subprocess
 import sys
+import tempfile
 
 from project_files import ROOT, git, project_files
 
@@ -51,6 +55,14 @@ def chosen_files(everything):
     return [name for name in files if name in sources or name.removesuffix(".h") + ".cpp" not in sources]
 
 
+def without_precompiled_headers(build, folder):
+    """Writes the compile commands anew into `folder`: clang cannot read what g++ has precompiled."""
+    commands = json.loads(pathlib.Path(build, "compile_commands.json").read_text(encoding="utf-8"))
+    for command in commands:
+        command["command"] = re.sub(r"(-Winvalid-pch|-include \S*cmake_pch\S*) ", "", command["command"])
+    pathlib.Path(folder, "compile_commands.json").write_text(json.dumps(commands), encoding="utf-8")
+
+
 def tidy(build, name):
     """What clang-tidy has to say on a file; empty when it is clean."""
     # The build directory was made for g++, some of whose options clang does not know.
@@ -68,8 +80,10 @@ def main():
     everything = "--all" in sys.argv[2:] or os.environ.get("TESSIK_TIDY_ALL") == "1"
     files = chosen_files(everything)
     taken = files if everything else files[:LIMIT]
-    with concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0))) as workers:
-        findings = [text for text in workers.map(lambda name: tidy(build, name), taken) if text]
+    with tempfile.TemporaryDirectory() as folder:
+        without_precompiled_headers(build, folder)
+        with concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0))) as workers:
+            findings = [text for text in workers.map(lambda name: tidy(folder, name), taken) if text]
     for text in findings:
         print(text)
     print(f"clang-tidy: {len(taken)} files, {len(findings)} with findings.")

@@ -74,6 +74,27 @@ TEST_F(GateTest, ShowsTheLastResortWhileTheFailedProcedureStillCounts) {
   gate.userEvent([] { throw std::runtime_error("broken"); });
 }
 
+// What tells a failure shows the screen first, and so would fail again for ever.
+TEST_F(GateTest, TellsAFailingSyncPassOnce) {
+  gate.setLastResort([this](const std::exception& failure) {
+    log.emplace_back(failure.what());
+    const Gate::ModalWait box(gate);
+  });
+  gate.setAfterEvent([] { throw std::runtime_error("sync"); });
+  gate.userEvent([] {});
+  gate.userEvent([] {});
+  EXPECT_EQ(log, (std::vector<std::string>{"sync", "sync"}));
+}
+
+TEST_F(GateTest, IsFreeOnlyWhenNoProcedureWaitsEither) {
+  gate.setWhenFree([this] { log.emplace_back(gate.isFree() ? "free" : "open"); });
+  gate.userEvent([this] {
+    const Gate::ModalWait box(gate);
+    gate.userEvent([] {});
+  });
+  EXPECT_EQ(log, (std::vector<std::string>{"sync", "sync", "open", "sync", "free"}));
+}
+
 TEST_F(GateTest, IgnoresWhatWidgetsSayWhileTheyAreWritten) {
   gate.setAfterEvent([this] {
     const Gate::Writing writing(gate);

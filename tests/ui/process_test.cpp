@@ -1,0 +1,83 @@
+// The program as a process of its own: how it starts and ends, and what it leaves on disk.
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <csignal>
+#include <filesystem>
+#include <map>
+#include <string>
+
+#include "support/session.h"
+#include "support/temporary_directory.h"
+
+namespace ui {
+namespace {
+
+constexpr int kPatience = 20000;  // milliseconds
+
+struct ProgramProcess : testing::Test {
+  ProgramProcess() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_DATA_HOME", QString::fromStdString(directory.path("data")));
+    environment.insert("XDG_CONFIG_HOME", QString::fromStdString(directory.path("config")));
+    process.setProcessEnvironment(environment);
+    process.setProgram(TESSIK_PROGRAM);
+  }
+  int exitCode(const QStringList& arguments) {
+    process.setArguments(arguments);
+    process.start();
+    EXPECT_TRUE(process.waitForFinished(kPatience));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    return process.exitCode();
+  }
+  /// Every file below the directory with its bytes.
+  [[nodiscard]] std::map<std::string, std::string> files() const {
+    std::map<std::string, std::string> result;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(directory.path(""))) {
+      const std::string name = std::filesystem::relative(entry.path(), directory.path("")).string();
+      if (entry.is_regular_file()) result[name] = directory.read(name);
+    }
+    return result;
+  }
+
+  const support::TemporaryDirectory directory;
+  QProcess process;
+};
+
+TEST_F(ProgramProcess, ExitAfterStartUpWritesNothing) {
+  EXPECT_EQ(exitCode({"--exit-after-startup"}), 0);
+  directory.write("data/tessik/Ostrowerk.ini",
+                  "[Einstellungen]\nMwst=7\nMaßeinheit=cm\nIndex1=1\nIndex2=1\nTVorn=0\n"
+                  "LZ=1\nSnd=\n");
+  const auto before = files();
+  EXPECT_EQ(before.size(), 4U);
+  EXPECT_EQ(exitCode({"--exit-after-startup"}), 0);
+  EXPECT_EQ(files(), before);
+}
+
+TEST_F(ProgramProcess, TheSystemsSignalsEndItLikeItsCloseButton) {
+  for (const int signal : {SIGTERM, SIGINT}) {
+    std::filesystem::remove_all(directory.path("config"));
+    std::filesystem::remove_all(directory.path("data"));
+    process.setArguments({});
+    process.start();
+    ASSERT_TRUE(process.waitForStarted(kPatience));
+    const std::string store = directory.path("config/Tessik/Tessik.conf");
+    for (int i = 0; i < 200 && !std::filesystem::exists(store); ++i) process.waitForFinished(20);
+    ::kill(static_cast<pid_t>(process.processId()), signal);
+    ASSERT_TRUE(process.waitForFinished(kPatience));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 0);
+    EXPECT_NE(directory.read("config/Tessik/Tessik.conf").find("SndPfad="), std::string::npos);
+  }
+}
+
+TEST_F(ProgramProcess, AWrongArgumentIsToldAndEndsWithTwo) {
+  EXPECT_EQ(exitCode({"--daten", QString::fromStdString(directory.path("fehlt"))}), 2);
+  const QByteArray told = process.readAllStandardError();
+  EXPECT_TRUE(told.contains("fehlt")) << told.toStdString();
+  EXPECT_EQ(exitCode({"--datne"}), 2);
+}
+
+}  // namespace
+}  // namespace ui
