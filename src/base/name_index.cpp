@@ -67,31 +67,38 @@ void NameIndex::reset(std::size_t count) {
   while (size < 2 * count) size *= 2;
   slots_.assign(size, {});
   taken_ = 0;
+  entries_.clear();
+  entries_.reserve(count);
 }
 
 void NameIndex::add(std::string_view name, std::uint32_t position) {
   if (2 * taken_ >= slots_.size()) grow();
-  place({nameHash(name), position});
+  const std::uint32_t hash = nameHash(name);
+  const auto added = static_cast<std::uint32_t>(entries_.size());
+  entries_.push_back({position});
+  Slot& slot = slots_[slotOf(hash)];
+  if (slot.first == kNone) {
+    slot = {hash, added, added};
+    ++taken_;
+  } else {
+    entries_[slot.last].next = added;
+    slot.last = added;
+  }
 }
 
-void NameIndex::place(Slot slot) {
-  std::size_t at = slot.hash & mask();
-  while (slots_[at].position != kFree) at = (at + 1) & mask();
-  slots_[at] = slot;
-  ++taken_;
+// The slot that the hash has or would get.
+std::size_t NameIndex::slotOf(std::uint32_t hash) const {
+  const std::size_t mask = slots_.size() - 1;
+  std::size_t at = hash & mask;
+  while (slots_[at].first != kNone && slots_[at].hash != hash) at = (at + 1) & mask;
+  return at;
 }
 
 void NameIndex::grow() {
-  const std::vector<Slot> old = std::move(slots_);
-  reset(2 * taken_ + 1);
-  // From behind a free slot, so that equal names keep their order where they run over the end.
-  const auto isFree = [](const Slot& slot) { return slot.position == kFree; };
-  const auto start = std::find_if(old.begin(), old.end(), isFree);
-  const auto placeTaken = [&](const Slot& slot) {
-    if (!isFree(slot)) place(slot);
-  };
-  std::for_each(start, old.end(), placeTaken);
-  std::for_each(old.begin(), start, placeTaken);
+  const std::vector<Slot> old = std::exchange(slots_, std::vector<Slot>(std::max<std::size_t>(16, 2 * slots_.size())));
+  for (const Slot& slot : old) {
+    if (slot.first != kNone) slots_[slotOf(slot.hash)] = slot;
+  }
 }
 
 }  // namespace base

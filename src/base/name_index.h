@@ -28,27 +28,31 @@ class NameIndex {
   template <typename Predicate>
   [[nodiscard]] std::optional<std::uint32_t> find(std::string_view name, Predicate&& isThere) const {
     if (slots_.empty()) return std::nullopt;
-    const std::uint32_t hash = nameHash(name);
-    for (std::size_t at = hash & mask(); slots_[at].position != kFree; at = (at + 1) & mask()) {
-      if (slots_[at].hash == hash && isThere(slots_[at].position)) return slots_[at].position;
+    for (std::uint32_t at = slots_[slotOf(nameHash(name))].first; at != kNone; at = entries_[at].next) {
+      if (isThere(entries_[at].position)) return entries_[at].position;
     }
     return std::nullopt;
   }
 
  private:
-  static constexpr std::uint32_t kFree = 0xFFFFFFFF;
+  static constexpr std::uint32_t kNone = 0xFFFFFFFF;
 
+  struct Entry {
+    std::uint32_t position;
+    std::uint32_t next = kNone;  // of the same hash, in the order of adding
+  };
   struct Slot {
     std::uint32_t hash = 0;
-    std::uint32_t position = kFree;
+    std::uint32_t first = kNone;
+    std::uint32_t last = kNone;
   };
 
-  [[nodiscard]] std::size_t mask() const { return slots_.size() - 1; }
-  void place(Slot slot);
+  [[nodiscard]] std::size_t slotOf(std::uint32_t hash) const;
   void grow();
 
-  // A power of two of slots, at most half of them taken: a name stands in the slot of its hash or, where that is taken,
-  // in the next free one.
+  std::vector<Entry> entries_;
+  // A power of two of slots, at most half of them taken. A hash has one slot however often its name is there: the one
+  // of its own number or, where that is taken by another hash, the next free one.
   std::vector<Slot> slots_;
   std::size_t taken_ = 0;
 };
