@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/code_page.h"
+#include "base/encoding.h"
 #include "base/profile_sections.h"
 #include "base/text.h"
 
@@ -22,19 +22,11 @@ std::string_view cutTo(std::size_t characters, std::string_view text) {
   return text.size() <= characters ? text : firstCodePoints(text, characters);
 }
 
-std::string decoded(std::string bytes, bool hasMark, bool isCodePage1252) {
-  if (isCodePage1252) return fromCodePage1252(bytes);
-  if (hasMark) bytes.erase(0, kUtf8Mark.size());
-  return bytes;
-}
-
 }  // namespace
 
 struct ProfileFile::Content {
   explicit Content(std::string bytes)
-      : hasMark(bytes.starts_with(kUtf8Mark)),
-        isCodePage1252(!hasMark && !isUtf8File(bytes)),
-        sections(std::in_place, decoded(std::move(bytes), hasMark, isCodePage1252)) {}
+      : encoding(encodingOf(bytes)), sections(std::in_place, decoded(std::move(bytes), encoding)) {}
 
   std::string_view asName(std::string_view text) { return withoutOuterBlanks(sections->asOneLine(text)); }
   // As in a header, the name ends at the first "]".
@@ -57,8 +49,7 @@ struct ProfileFile::Content {
   // A new text that is not the line it was meant to be makes other lines of the file something else too.
   void readAgain() { sections.emplace(sections->text()); }
 
-  bool hasMark;
-  bool isCodePage1252;
+  Encoding encoding;
   bool isChanged = false;
   std::optional<ProfileSections> sections;
 };
@@ -132,14 +123,7 @@ void ProfileFile::setSection(std::string_view section, std::span<const std::stri
   if (!content_->sections->setLines(content_->findOrAdd(section), lines)) content_->readAgain();
 }
 
-std::string ProfileFile::bytes() const {
-  std::string text = content_->sections->text();
-  if (content_->hasMark) return text.insert(0, kUtf8Mark);
-  if (!content_->isCodePage1252) return text;
-  // Bytes that happen to be UTF-8 would be read as such the next time.
-  const std::optional<std::string> encoded = toCodePage1252(text);
-  return encoded && (*encoded == text || !isUtf8File(*encoded)) ? *encoded : text;
-}
+std::string ProfileFile::bytes() const { return encoded(content_->sections->text(), content_->encoding); }
 
 void ProfileFile::save(const std::string& path) {
   if (!content_->isChanged) return;

@@ -9,8 +9,8 @@
 // line of the file does. CR and LF inside a text are written as one blank each. A section name ends at its first "]" as
 // in a header. A key is not checked: with a "=" in it, it is written but reads back as another.
 //
-// Characters. In memory UTF-8, lengths in code points. A file that is not valid UTF-8 is read as code page 1252 and
-// written back so, unless a new text does not fit it.
+// Characters. In memory UTF-8, lengths in code points. A file with the mark of UTF-16 is read and written back as such;
+// one that is not valid UTF-8 is read as code page 1252 and written back so, unless a new text does not fit it.
 //
 // Errors are base::Failure with the number of the operating system's reason; the file then holds what it held before.
 #pragma once
