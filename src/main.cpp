@@ -1,5 +1,6 @@
 // The program's entry: the terminal form when the first argument asks for it, else the windows.
 #include <algorithm>
+#include <cstdlib>
 #include <iostream>
 #include <span>
 #include <string>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "base/version.h"
+#include "lifecycle/program_directory.h"
 #include "terminal/price_command.h"
 #include "ui/application.h"
 
@@ -26,9 +28,13 @@ bool asksFor(const std::vector<std::string>& arguments, std::string_view option)
   return std::find(arguments.begin(), arguments.end(), option) != arguments.end();
 }
 
+// A text that nobody could read is a failure.
+int print(std::string_view text) { return std::cout << text << std::flush ? EXIT_SUCCESS : EXIT_FAILURE; }
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  lifecycle::ensureHome();
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   if (!arguments.empty() && arguments.front() == "kalkuliere") {
     // Without the C library's buffers a failing read of the standard input is told from its end.
@@ -36,12 +42,7 @@ int main(int argc, char** argv) {
     return terminal::runPriceCommand(std::span(arguments).subspan(1),
                                      {.in = std::cin, .out = std::cout, .error = std::cerr});
   }
-  if (asksFor(arguments, "--help")) {
-    std::cout << kHelp;
-  } else if (asksFor(arguments, "--version")) {
-    std::cout << base::versionLine() << '\n';
-  } else {
-    return ui::runApplication(argc, argv);
-  }
-  return 0;
+  if (asksFor(arguments, "--help")) return print(kHelp);
+  if (asksFor(arguments, "--version")) return print(base::versionLine() + "\n");
+  return ui::runApplication(argc, argv);
 }

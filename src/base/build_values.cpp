@@ -3,6 +3,7 @@
 
 namespace base {
 
+constinit const char* const kVersion = TESSIK_VERSION;
 constinit const std::string_view kMakerKey = TESSIK_MAKER_KEY;
 constinit const std::string_view kMakerNotice = TESSIK_MAKER_NOTICE;
 constinit const std::string_view kSupportAddress = TESSIK_SUPPORT_ADDRESS;

@@ -23,16 +23,16 @@ constexpr std::array kErrors = {
     Entry{ErrorNumber::divisionByZero, "Division durch Null"},
     Entry{ErrorNumber::typeMismatch, "Typen unverträglich: Hier wird eine Zahl erwartet"},
     Entry{ErrorNumber::internal, "Interner Fehler"},
-    Entry{ErrorNumber::badFileName, "Ungültiger Dateiname"},
-    Entry{ErrorNumber::fileNotFound, "Datei nicht gefunden"},
-    Entry{ErrorNumber::deviceIo, "Ein-/Ausgabefehler des Geräts"},
-    Entry{ErrorNumber::fileExists, "Datei existiert bereits"},
-    Entry{ErrorNumber::diskFull, "Datenträger voll"},
-    Entry{ErrorNumber::deviceUnavailable, "Gerät nicht verfügbar"},
-    Entry{ErrorNumber::permissionDenied, "Zugriff verweigert"},
-    Entry{ErrorNumber::diskNotReady, "Datenträger nicht bereit"},
-    Entry{ErrorNumber::pathFileAccess, "Fehler beim Zugriff auf Pfad oder Datei"},
-    Entry{ErrorNumber::pathNotFound, "Pfad nicht gefunden"},
+    Entry{ErrorNumber::badFileName, "Der Dateiname ist ungültig."},
+    Entry{ErrorNumber::fileNotFound, "Die Datei wurde nicht gefunden."},
+    Entry{ErrorNumber::deviceIo, "Das Gerät meldet einen Fehler beim Lesen oder Schreiben."},
+    Entry{ErrorNumber::fileExists, "Die Datei gibt es schon."},
+    Entry{ErrorNumber::diskFull, "Auf dem Datenträger ist kein Platz mehr."},
+    Entry{ErrorNumber::deviceUnavailable, "Das Gerät ist nicht verfügbar."},
+    Entry{ErrorNumber::permissionDenied, "Der Zugriff wurde verweigert."},
+    Entry{ErrorNumber::diskNotReady, "Der Datenträger ist nicht bereit."},
+    Entry{ErrorNumber::pathFileAccess, "Auf die Datei kann nicht zugegriffen werden."},
+    Entry{ErrorNumber::pathNotFound, "Das Verzeichnis wurde nicht gefunden."},
     Entry{ErrorNumber::cancelled, "Der Vorgang wurde abgebrochen"},
 };
 
@@ -49,10 +49,16 @@ Failure::Failure(ErrorNumber number) : Failure(number, errorText(number)) {}
 
 Failure::Failure(ErrorNumber number, std::string text) : number_(number), text_(std::move(text)) {}
 
-Failure failureOf(const std::exception& fault) {
-  if (dynamic_cast<const std::bad_alloc*>(&fault) != nullptr) return Failure(ErrorNumber::outOfMemory);
+std::string withPlace(std::string_view sentence, std::string_view place, ErrorNumber number) {
+  return std::string(sentence).append("\n").append(place).append(" (Fehler ") +
+         std::to_string(static_cast<int>(number)) + ")";
+}
+
+Failure asFailure(const std::exception& fault) {
   if (const auto* const failure = dynamic_cast<const Failure*>(&fault)) return *failure;
-  return {ErrorNumber::internal, errorText(ErrorNumber::internal) + ": " + fault.what()};
+  if (dynamic_cast<const std::bad_alloc*>(&fault) != nullptr) return Failure(ErrorNumber::outOfMemory);
+  constexpr ErrorNumber kNumber = ErrorNumber::internal;
+  return Failure(kNumber, withPlace(errorText(kNumber), fault.what(), kNumber));
 }
 
 void Failure::stamp(std::string_view tag) {

@@ -34,6 +34,9 @@ enum class ErrorNumber : int {
 /// The German text that goes with `number`; a number outside the table has a text that names it.
 std::string errorText(ErrorNumber number);
 
+/// How a text ends that says more than the table: the sentence, then place and number in a line of their own.
+std::string withPlace(std::string_view sentence, std::string_view place, ErrorNumber number);
+
 class Failure : public std::exception {
  public:
   /// A failure with the text of the table.
@@ -56,8 +59,8 @@ class Failure : public std::exception {
   std::string tag_;
 };
 
-/// What an exception of another kind is to us: out of memory (7), or an internal error (51) with its text.
-Failure failureOf(const std::exception& fault);
+/// What an exception of any kind is to us: a Failure is itself, lack of memory is error 7, all else error 51.
+Failure asFailure(const std::exception& fault);
 
 /// Runs a tagged procedure that other procedures call: a failure keeps the tag of the innermost one.
 template <typename Procedure>
@@ -67,6 +70,10 @@ decltype(auto) tagged(std::string_view tag, Procedure&& procedure) {
   } catch (Failure& failure) {
     failure.stamp(tag);
     throw;
+  } catch (const std::exception& fault) {
+    Failure failure = asFailure(fault);
+    failure.stamp(tag);
+    throw failure;
   }
 }
 

@@ -51,6 +51,16 @@ OldFile replaceable(const std::string& path) {
   return status;
 }
 
+constexpr mode_t kPermissions = 07777;
+constexpr mode_t kReadWriteExecute = 0777;
+
+// The rights that remain when the group is another than it was: nobody gets one by now being in the group or now being
+// outside it, so both have what both had.
+mode_t whateverTheGroup(mode_t mode) {
+  const mode_t both = (mode >> 3U) & mode & S_IRWXO;
+  return S_IRWXU | both << 3U | both;
+}
+
 std::string pathBeside(const std::string& target) {
   constexpr std::size_t kLongestStem = 200;  // a name ends at 255 bytes
   const fs::path path(target);
@@ -73,11 +83,17 @@ class Replacement {
     if (!renamed_) ::unlink(path_.c_str());
   }
 
+  // Giving a file to another owner is a right that few have; without it the group is kept alone, if that may be.
   void takeOverRights(const struct stat& old) {
-    // Giving a file to another owner is a right that few have; without it the rest is still kept.
-    [[maybe_unused]] const int ignored = ::fchown(file_.number(), old.st_uid, old.st_gid);
-    constexpr mode_t kPermissions = 07777;
-    if (::fchmod(file_.number(), old.st_mode & kPermissions) != 0) throw fileFailure(errno, target_);
+    constexpr uid_t kSameOwner = static_cast<uid_t>(-1);
+    const auto give = [&](uid_t owner) { return ::fchown(file_.number(), owner, old.st_gid) == 0; };
+    mode_t mode = old.st_mode;
+    if (give(old.st_uid)) {
+      mode &= kPermissions;
+    } else {
+      mode &= give(kSameOwner) ? kReadWriteExecute : whateverTheGroup(mode);
+    }
+    if (::fchmod(file_.number(), mode) != 0) throw fileFailure(errno, target_);
   }
 
   void write(std::string_view bytes) {
@@ -124,19 +140,28 @@ class Replacement {
   bool renamed_ = false;
 };
 
+// The rights come before the first byte, so that nobody reads here what he could not read there.
+void writeWhole(const std::string& target, const OldFile& rights, std::string_view bytes) {
+  constexpr mode_t kOwnerOnly = 0600;
+  constexpr mode_t kByUmask = 0666;
+  Replacement replacement(target, rights ? kOwnerOnly : kByUmask);
+  if (rights) replacement.takeOverRights(*rights);
+  replacement.write(bytes);
+  replacement.takePlace();
+}
+
 }  // namespace
 
 void replaceFile(const std::string& path, std::string_view bytes) {
   if (path.empty() || path.find('\0') != std::string::npos) throw fileFailure(ErrorNumber::badFileName, path);
   const std::string target = behindLinks(path);
-  const OldFile old = replaceable(target);
-  // The rights come before the first byte, so that nobody reads here what he could not read there.
-  constexpr mode_t kOwnerOnly = 0600;
-  constexpr mode_t kByUmask = 0666;
-  Replacement replacement(target, old ? kOwnerOnly : kByUmask);
-  if (old) replacement.takeOverRights(*old);
-  replacement.write(bytes);
-  replacement.takePlace();
+  writeWhole(target, replaceable(target), bytes);
+}
+
+void writeCopy(const std::string& path, std::string_view bytes, const std::string& original) {
+  struct stat rights {};
+  if (::stat(original.c_str(), &rights) != 0) throw fileFailure(errno, original);
+  writeWhole(path, rights, bytes);
 }
 
 }  // namespace base

@@ -59,7 +59,7 @@ bool isWindowsForm(std::string_view directory) {
 Failure fileFailure(int osError, const std::string& path) { return fileFailure(numberOf(osError, path), path); }
 
 Failure fileFailure(ErrorNumber number, const std::string& path) {
-  return Failure(number, errorText(number) + ": " + path);
+  return Failure(number, withPlace(errorText(number), path, number));
 }
 
 std::optional<std::string> readFile(const std::string& path) {

@@ -11,7 +11,7 @@ namespace base {
 
 /// The failure for the system error `osError` (an errno) at the file `path`; its text names the file.
 Failure fileFailure(int osError, const std::string& path);
-/// A failure with the text of the table and the file it happened at.
+/// A failure with the sentence of the table and, in a line of its own, the file it happened at.
 Failure fileFailure(ErrorNumber number, const std::string& path);
 
 /// The bytes of a file; nothing when it is missing. A directory or an unreadable file is a Failure.

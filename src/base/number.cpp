@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <system_error>
 
 #include "base/failure.h"
@@ -20,6 +21,11 @@ constexpr std::string_view kDigits = "0123456789";
 std::string_view withoutLeadingBlanks(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   return text;
+}
+
+std::string_view withoutOuterBlanks(std::string_view text) {
+  text = withoutLeadingBlanks(text);
+  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
 }
 
 // The length of the digits and the one point at the start of `text`.
@@ -70,13 +76,21 @@ bool isTypedNumber(std::string_view text) {
 }
 
 std::optional<int> wholeNumber(std::string_view text) {
-  text = withoutLeadingBlanks(text);
-  text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
+  text = withoutOuterBlanks(text);
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   int value = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
   if (result.ec != std::errc{} || result.ptr != text.data() + text.size()) return std::nullopt;
   return value;
+}
+
+std::optional<int> roundedNumber(std::string_view text) {
+  text = withoutOuterBlanks(text);
+  if (!isTypedNumber(text)) return std::nullopt;
+  const double rounded = std::nearbyint(typedAmount(text));
+  using Limits = std::numeric_limits<int>;
+  if (rounded < Limits::min() || rounded > Limits::max()) throw Failure(ErrorNumber::overflow);
+  return static_cast<int>(rounded);
 }
 
 std::string twoDecimals(double value, std::string_view decimalSeparator) {

@@ -23,6 +23,10 @@ bool isTypedNumber(std::string_view text);
 /// `text` as a whole number, blanks around it ignored; nothing when it is anything else or beyond 32 bits.
 std::optional<int> wholeNumber(std::string_view text);
 
+/// `text` rounded to a whole number, halves to even, blanks around it ignored and "," counting as "."; nothing when it
+/// is no number. Error 6 beyond 32 bits.
+std::optional<int> roundedNumber(std::string_view text);
+
 /// `value` with two decimals behind `decimalSeparator`, at least one digit before it, no grouping; zero has no sign.
 /// Error 6 when `value` is not finite.
 std::string twoDecimals(double value, std::string_view decimalSeparator);

@@ -3,11 +3,11 @@
 
 #include <string>
 
+#include "base/build_values.h"
+
 namespace base {
 
-inline constexpr const char* kVersion = "1.4";
-
-/// "Tessik 1.4".
+/// "Tessik" and the version.
 inline std::string versionLine() { return std::string("Tessik ") + kVersion; }
 
 }  // namespace base

@@ -1,7 +1,7 @@
 // Loading the price database.
 #include "calc/price_database.h"
 
-#include <vector>
+#include <string_view>
 
 #include "base/failure.h"
 #include "base/number.h"
@@ -11,30 +11,49 @@
 namespace calc {
 namespace {
 
-constexpr std::size_t kShownOfPrice = 20;  // of a price that is too long
+constexpr std::size_t kShownOfText = 20;
+
+// The beginning of a text that may be long, in quotes.
+std::string quoted(const std::string& text) {
+  const std::string_view shown = base::firstCodePoints(text, kShownOfText);
+  return "\"" + std::string(shown) + (shown.size() < text.size() ? "…\"" : "\"");
+}
+
+base::Failure tooLong(const std::string& price, const std::string& height, const std::string& list) {
+  constexpr auto kNumber = base::ErrorNumber::invalidCall;
+  const std::string sentence = "Der Preis " + quoted(price) + " der Buchstabenhöhe " + quoted(height) +
+                               " ist zu lang, höchstens 16 Zeichen haben Platz.";
+  return base::Failure(kNumber, base::withPlace(sentence, list, kNumber));
+}
+
+void clear(frame::MainWindow& window) {
+  window.cboBuchstabenhöhe.clear();
+  window.List1.items.clear();
+}
 
 }  // namespace
 
 std::string alignedPrice(const std::string& price) {
   const std::size_t length = base::codePointCount(price);
-  if (length > kPriceWidth) {
-    throw base::Failure(base::ErrorNumber::invalidCall, "Preisdatenbank: Der Preis \"" +
-                                                            std::string(base::firstCodePoints(price, kShownOfPrice)) +
-                                                            "…\" ist zu lang, höchstens 16 Zeichen haben Platz.");
-  }
+  if (length > kPriceWidth) throw base::Failure(base::ErrorNumber::invalidCall);
   return std::string(kPriceWidth - length, ' ') + base::withDecimalPoint(price);
 }
 
 void LoadPriceDatabase(frame::MainWindow& window, const std::string& file) {
-  window.cboBuchstabenhöhe.clear();
-  window.List1.items.clear();
-  const base::ProfileFile database = base::ProfileFile::load(file);
+  clear(window);
+  loadPrices(window, base::ProfileFile::load(file), file);
+}
+
+void loadPrices(frame::MainWindow& window, const base::ProfileFile& database, const std::string& name) {
+  clear(window);
   for (int entry = 0;; ++entry) {
     const std::string key = std::to_string(entry);
     const std::string height = database.value("Versalien", key, base::kListBuffer).value_or("");
     if (height.empty()) return;
     window.cboBuchstabenhöhe.items.add(height);
-    window.List1.items.push_back(alignedPrice(database.value("Preise", key, base::kListBuffer).value_or("")));
+    const std::string price = database.value("Preise", key, base::kListBuffer).value_or("");
+    if (base::codePointCount(price) > kPriceWidth) throw tooLong(price, height, name);
+    window.List1.items.push_back(alignedPrice(price));
   }
 }
 

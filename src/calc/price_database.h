@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include "base/profile_file.h"
 #include "frame/main_window.h"
 
 namespace calc {
@@ -18,8 +19,10 @@ inline constexpr int kPriceWidth = 16;  // characters of a price text in List1, 
 std::string alignedPrice(const std::string& price);
 
 /// Fills cboBuchstabenhöhe and List1 from the file; a missing file leaves both empty. A price that is too long ends the
-/// load with error 5 behind its cap height; what was loaded before stays.
+/// load with error 5 behind its cap height, which it names; what was loaded before stays.
 void LoadPriceDatabase(frame::MainWindow& window, const std::string& file);
+/// The same for a list in memory, which is told by `name`.
+void loadPrices(frame::MainWindow& window, const base::ProfileFile& database, const std::string& name);
 
 /// The net price of one character at position `index`; 0 where there is none.
 double priceAt(const frame::MainWindow& window, int index);

@@ -7,6 +7,7 @@
 
 #include "base/build_values.h"
 #include "base/profile_file.h"
+#include "base/version.h"
 
 namespace errors {
 namespace {
@@ -52,9 +53,9 @@ std::string bytesText(std::uint64_t bytes, const base::NumberFormat& format) {
 }
 
 void writeError(base::ProfileFile& log, const ErrorRecord& record) {
-  constexpr std::string_view kHead = "Tessik 1.4 Fehler-Log-Datei";
-  log.setValue(kHead, base::kMakerKey, base::kMakerNotice);
-  log.setValue(kHead, "Bitte per eMail an", base::kSupportAddress);
+  const std::string head = base::versionLine() + " Fehler-Log-Datei";
+  log.setValue(head, base::kMakerKey, base::kMakerNotice);
+  log.setValue(head, "Bitte per eMail an", base::kSupportAddress);
   constexpr std::string_view kError = "Fehlermeldung";
   log.setValue(kError, "Datum", base::dateText(record.moment));
   log.setValue(kError, "Zeit", base::timeText(record.moment));

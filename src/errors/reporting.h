@@ -31,9 +31,7 @@ template <typename Procedure>
 void reporting(Reporter& reporter, std::string_view tag, Procedure&& procedure) {
   try {
     base::tagged(tag, std::forward<Procedure>(procedure));
-  } catch (const std::exception& fault) {
-    base::Failure failure = base::failureOf(fault);
-    failure.stamp(tag);
+  } catch (const base::Failure& failure) {
     reporter.report(failure);
   }
 }
@@ -43,7 +41,7 @@ template <typename Statement>
 void skipping(Statement&& statement) {
   try {
     std::forward<Statement>(statement)();
-  } catch (const base::Failure&) {  // NOLINT(bugprone-empty-catch): passing over it is what is asked
+  } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): passing over it is what is asked
   }
 }
 

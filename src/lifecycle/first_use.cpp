@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "base/files.h"
-#include "base/profile_file.h"
 #include "settings/settings.h"
 
 namespace lifecycle {
@@ -22,25 +21,30 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 20> kSampleP
     {"200", "7.10 EUR"}, {"250", "9.50 EUR"}, {"300", "12.20 EUR"}, {"400", "18.50 EUR"}, {"500", "26.00 EUR"},
 }};
 
-void writeSamplePrices(const std::string& path) {
+}  // namespace
+
+base::ProfileFile samplePriceList() {
   base::ProfileFile file = base::ProfileFile::parse("");
   for (std::size_t i = 0; i < kSamplePrices.size(); ++i) {
     file.setValue("Versalien", std::to_string(i), kSamplePrices.at(i).first);
     file.setValue("Preise", std::to_string(i), kSamplePrices.at(i).second);
   }
-  file.save(path);
+  return file;
 }
 
-}  // namespace
+bool isFirstUse(const std::string& directory) {
+  std::error_code ignored;
+  return !std::filesystem::exists(directory, ignored);
+}
 
 bool createOnFirstUse(const std::string& directory) {
+  if (!isFirstUse(directory)) return false;
   std::error_code error;
-  if (std::filesystem::exists(directory, error)) return false;
   // Made beside its place and renamed: a directory without its files would never be filled again.
   const std::string draft = directory + ".neu";
   std::filesystem::create_directories(draft, error);
   if (error) throw base::fileFailure(error.value(), draft);
-  writeSamplePrices(settings::Paths{draft}.priceDatabase());
+  samplePriceList().save(settings::Paths{draft}.priceDatabase());
   std::filesystem::rename(draft, directory, error);
   if (error) throw base::fileFailure(error.value(), directory);
   return true;

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "base/build_values.h"
 #include "base/files.h"
 #include "lifecycle/first_use.h"
 #include "settings/user_keys.h"
@@ -21,14 +22,15 @@ void tellCopy(frame::MainWindow& window, const std::string& copy) {
   append(window.lblHinweis.toolTip, "Die bisherigen Einstellungen liegen in ", copy);
 }
 
-void keepCopy(Program& program, File file) {
-  if (const auto copy = settings::keepNumberedCopy(pathOf(program.paths, file))) tellCopy(program.windows.main, *copy);
+void keepCopy(Program& program, File file, settings::CopyWhen when = settings::CopyWhen::differs) {
+  const auto copy = settings::keepNumberedCopy(pathOf(program.paths, file), when);
+  if (copy) tellCopy(program.windows.main, *copy);
 }
 
 // Keys that have no default of a first start, such as the company address, stay.
 void resetKeys(settings::UserKeys& keys) {
   const settings::UserKeys defaults;
-  keys.version = settings::kDefaultsVersion;
+  keys.version = base::kVersion;
   keys.windowState = defaults.windowState;
   keys.lastFile = defaults.lastFile;
   keys.beeper = defaults.beeper;
@@ -83,14 +85,19 @@ void read(Program& program) {
   settings::ReadReport& report = program.readReport;
   report = settings::readSettings(program.paths, program.settings, settings::MissingNumber::isProblem);
   program.settings.reminderSound = settings::wholeSoundPath(program.settings.reminderSound, program.settings.user);
+  if (!report.problems.empty()) throw settings::failureOf(report.problems);
+}
+
+void keepWhatWasNotRead(Program& program) {
+  settings::ReadReport& report = program.readReport;
   if (!report.generalIsWhole) keepCopy(program, File::general);
-  if (!report.listsAreWhole) keepCopy(program, File::lists);
   report.generalIsWhole = true;  // or kept
+  if (!report.listsAreWhole) {
+    keepCopy(program, File::lists);
+  } else if (!report.restIsWhole) {
+    keepCopy(program, File::lists, settings::CopyWhen::restDiffers);
+  }
   report.listsAreWhole = true;
-  if (report.problems.empty()) return;
-  std::string text;
-  for (const settings::ReadProblem& problem : report.problems) text += (text.empty() ? "" : "\n") + problem.text;
-  throw base::Failure(report.problems.front().number, text);
 }
 
 }  // namespace
@@ -106,7 +113,7 @@ StartUp prepareSettings(Program& program, const commands::MainParts& parts) {
     hasDirectory = true;
   });
   if (!hasDirectory) return StartUp::goesOn;  // with the defaults in memory
-  if (program.settings.user.version != settings::kDefaultsVersion) {
+  if (program.settings.user.version != base::kVersion) {
     step([&] { writeFirstStart(program, parts.platform); });
   } else if (isNew) {
     step([&] { writeNewDirectory(program); });
@@ -115,6 +122,7 @@ StartUp prepareSettings(Program& program, const commands::MainParts& parts) {
     if (createIfMissing(program, parts, file) == StartUp::ends) return StartUp::ends;
   }
   step([&] { read(program); });
+  step([&] { keepWhatWasNotRead(program); });
   return StartUp::goesOn;
 }
 

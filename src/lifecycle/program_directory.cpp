@@ -1,6 +1,9 @@
 // Where the program keeps its data files.
 #include "lifecycle/program_directory.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
@@ -19,6 +22,12 @@ std::string environment(const char* name) {
 
 }  // namespace
 
+void ensureHome() {
+  if (!environment("HOME").empty()) return;
+  const passwd* const user = ::getpwuid(::getuid());
+  if (user != nullptr && user->pw_dir != nullptr) ::setenv("HOME", user->pw_dir, 1);
+}
+
 DirectoryCandidates directoryCandidates(std::optional<std::string> given) {
   std::error_code ignored;
   const std::filesystem::path programFile = std::filesystem::read_symlink("/proc/self/exe", ignored);
@@ -35,6 +44,15 @@ ProgramDirectory programDirectory(const DirectoryCandidates& candidates) {
   const settings::Paths portable{candidates.programFileDirectory};
   if (base::FileExists(portable.generalSettings())) return {.path = candidates.programFileDirectory};
   return {.path = base::joinPath(candidates.userDataDirectory, "tessik"), .isUsersOwn = true};
+}
+
+std::optional<std::string> faultOf(const ProgramDirectory& directory) {
+  std::error_code ignored;
+  const auto type = std::filesystem::status(directory.path, ignored).type();
+  if (directory.isUsersOwn || type == std::filesystem::file_type::directory) return std::nullopt;
+  const bool isThere = std::filesystem::exists(std::filesystem::file_status(type));
+  return isThere ? "\"" + directory.path + "\" ist kein Verzeichnis."
+                 : "Das Verzeichnis \"" + directory.path + "\" gibt es nicht.";
 }
 
 }  // namespace lifecycle

@@ -3,7 +3,6 @@
 
 #include <QLocale>
 #include <QString>
-#include <QStringDecoder>
 #include <algorithm>
 
 #include "base/text.h"
@@ -32,6 +31,24 @@ std::string firstCharacter(const QString& text) {
   return std::string(base::firstCodePoints(utf8, 1));
 }
 
+bool isAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+// Of a piece that ends before a character which joins nothing in front of it.
+std::size_t lengthOfPiece(std::string_view text) {
+  constexpr std::size_t kLeast = 4096;
+  constexpr unsigned char kLeadOfFirstThatJoins =
+      0xCC;  // of U+0300 in UTF-8; the bytes inside a character are 80 to BF
+  const auto joins = [](char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= kLeadOfFirstThatJoins || (byte >= 0x80 && byte < 0xC0);
+  };
+  std::size_t length = std::min(kLeast, text.size());
+  while (length < text.size() && joins(text[length])) ++length;
+  return length;
+}
+
 }  // namespace
 
 base::NumberFormat userNumberFormat() {
@@ -40,10 +57,20 @@ base::NumberFormat userNumberFormat() {
           .groupSeparator = firstCharacter(locale.groupSeparator())};
 }
 
+// Piece by piece, so that a large text is not held in the toolkit's form as well.
 std::string composed(std::string_view text) {
-  const bool ascii = std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-  if (ascii) return std::string(text);
-  return composed(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))).toStdString();
+  std::string result;
+  result.reserve(text.size());
+  while (!text.empty()) {
+    const std::string_view piece = text.substr(0, lengthOfPiece(text));
+    text.remove_prefix(piece.size());
+    if (isAscii(piece)) {
+      result += piece;
+    } else {
+      result += composed(QString::fromUtf8(piece.data(), static_cast<qsizetype>(piece.size()))).toStdString();
+    }
+  }
+  return result;
 }
 
 QString composed(const QString& text) {
@@ -57,14 +84,6 @@ QString composed(const QString& text) {
     begin = end;
   }
   return result;
-}
-
-bool isMarkedUtf16(std::string_view bytes) { return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"); }
-
-std::string fromMarkedUtf16(std::string_view bytes) {
-  QStringDecoder decoder(QStringDecoder::Utf16);
-  const QString text = decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-  return text.toStdString();
 }
 
 }  // namespace qtcore

@@ -17,8 +17,4 @@ base::NumberFormat userNumberFormat();
 std::string composed(std::string_view text);
 QString composed(const QString& text);
 
-/// Text files of the kind that Windows calls "Unicode": UTF-16 of either byte order behind its mark.
-bool isMarkedUtf16(std::string_view bytes);
-std::string fromMarkedUtf16(std::string_view bytes);
-
 }  // namespace qtcore

@@ -12,7 +12,7 @@ namespace settings {
 using base::ProfileFile;
 
 void INISetValue(const std::string& file, std::string_view section, std::string_view key, std::string_view value) {
-  base::tagged("modGlobal-INISetValue", [&] {
+  base::tagged(kSetValueTag, [&] {
     ProfileFile profile = ProfileFile::load(file);
     profile.setValue(section, key, value);
     profile.save(file);
@@ -20,13 +20,13 @@ void INISetValue(const std::string& file, std::string_view section, std::string_
 }
 
 std::string INIGetValue(const std::string& file, std::string_view section, std::string_view key) {
-  return base::tagged("modGlobal-INIGetValue", [&] {
+  return base::tagged(kGetValueTag, [&] {
     return ProfileFile::load(file).value(section, key, base::kSettingBuffer).value_or(std::string());
   });
 }
 
 void INISetArray(const std::string& file, std::string_view section, std::span<const std::string> array) {
-  base::tagged("modGlobal-INISetArray", [&] {
+  base::tagged(kSetArrayTag, [&] {
     ProfileFile profile = ProfileFile::load(file);
     replaceArray(profile, section, array);
     profile.save(file);

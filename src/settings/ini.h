@@ -13,6 +13,10 @@
 
 namespace settings {
 
+inline constexpr std::string_view kSetValueTag = "modGlobal-INISetValue";
+inline constexpr std::string_view kGetValueTag = "modGlobal-INIGetValue";
+inline constexpr std::string_view kSetArrayTag = "modGlobal-INISetArray";
+
 /// Writes one value; creates file and section when they are missing.
 void INISetValue(const std::string& file, std::string_view section, std::string_view key, std::string_view value);
 

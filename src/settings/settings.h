@@ -21,7 +21,7 @@ class AdjustmentList {
  public:
   static constexpr int kSlots = 105;
 
-  int count = 1;  // 1 to kSlots
+  int count = 1;  // 0 to kSlots
   std::array<std::string, kSlots> amounts;
   std::array<std::string, kSlots> remarks;
 

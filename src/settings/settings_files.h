@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/failure.h"
@@ -23,22 +24,27 @@ void writeDefaults(const Paths& paths, const Settings& settings, File which);
 
 struct ReadProblem {
   base::ErrorNumber number;
-  std::string text;  // German, one line
+  std::string sentence;  // German
+  std::string path;
+  std::string_view tag;  // of the operation that failed; empty where the value is to blame
 };
 
 /// What reading left undone.
 struct ReadReport {
   std::vector<ReadProblem> problems;  // empty when all was read
   bool generalIsWhole = true;         // memory holds all that the file held
-  bool listsAreWhole = true;
+  bool listsAreWhole = true;          // of the lists file all that the end of a session writes anew
+  bool restIsWhole = true;            // and what else it holds, which stays there untouched
 };
 
-/// Reads both files into memory. A number that is none, a count out of bounds or a file that cannot be read is a
-/// problem in the report, and reading goes on; counts are held within bounds. A missing text reads as "", a missing
-/// list leaves what memory holds.
+/// Reads both files into memory. A text that is no number, a count beyond its list or a file that cannot be read is a
+/// problem in the report, and reading goes on. A missing text reads as "", a missing list leaves what memory holds.
 /// A missing number is a problem as well, or leaves the default as `missing` says.
 enum class MissingNumber { isProblem, keepsDefault };
 ReadReport readSettings(const Paths& paths, Settings& settings, MissingNumber missing);
+
+/// The problems, of which there are some, as one: number and tag are those of the first.
+base::Failure failureOf(const std::vector<ReadProblem>& problems);
 
 /// The sound of a new installation: "MEDIA\\Chimes.wav" in the system's directory.
 std::string defaultReminderSound(const std::string& systemRoot);
@@ -49,8 +55,13 @@ void writeSettings(const Paths& paths, const Settings& settings, File which);
 /// As writeSettings(), for a file of which `report` tells what memory holds: what was never read is copied first.
 void saveSettings(const Paths& paths, const Settings& settings, File file, ReadReport& report);
 
-/// Copies an existing file to the first free name "<file>.1", "<file>.2", … beside it and returns that name; nothing
-/// when there is no file. A failure to copy is the caller's: the file must not be overwritten then.
-std::optional<std::string> keepNumberedCopy(const std::string& path);
+/// What makes another copy beside those that are there: any byte of the file, or one outside the lists that the end of
+/// a session writes anew.
+enum class CopyWhen { differs, restDiffers };
+
+/// Copies an existing file, with its rights, to the first free name "<file>.1", "<file>.2", … beside it unless one of
+/// them holds it already; the name of that copy, nothing when there is no file. A failure to copy is the caller's: the
+/// file must not be overwritten then.
+std::optional<std::string> keepNumberedCopy(const std::string& path, CopyWhen when = CopyWhen::differs);
 
 }  // namespace settings

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/build_values.h"
 #include "base/profile_file.h"
 #include "base/text.h"
 
@@ -25,8 +26,8 @@ constexpr std::array kSessionKeys = {
     Key{"SndPfad", &UserKeys::reminderSound},
 };
 
-constexpr std::array<std::pair<const char*, const char*>, 14> kFirstStart = {{
-    {"Version", "1.4"},
+// Behind "Version".
+constexpr std::array<std::pair<const char*, const char*>, 13> kFirstStart = {{
     {"WinState", "0"},
     {"LastFile", ""},
     {"Beeper", "False"},
@@ -52,7 +53,7 @@ void readUserKeys(const base::Platform& platform, UserKeys& keys) {
 
 void writeFirstStartKeys(base::Platform& platform) {
   std::vector<base::UserSetting> values;
-  values.reserve(kFirstStart.size());
+  values.push_back({"Version", base::kVersion});
   for (const auto& [key, value] : kFirstStart) values.push_back({key, value});
   platform.saveUserSettings(values);
 }

@@ -9,8 +9,6 @@
 
 namespace settings {
 
-inline constexpr std::string_view kDefaultsVersion = "1.4";
-
 /// Reads the keys; a missing one leaves its default, a missing "Version" reads as "".
 void readUserKeys(const base::Platform& platform, UserKeys& keys);
 

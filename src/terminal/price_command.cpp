@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -10,10 +12,11 @@
 #include <memory>
 #include <ostream>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
-#include "base/code_page.h"
+#include "base/encoding.h"
 #include "base/files.h"
 #include "base/number.h"
 #include "base/text.h"
@@ -21,8 +24,8 @@
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
 #include "lifecycle/assembly.h"
+#include "lifecycle/first_use.h"
 #include "lifecycle/program_directory.h"
-#include "qtcore/locale.h"
 #include "settings/settings_files.h"
 #include "terminal/arguments.h"
 #include "terminal/output.h"
@@ -34,15 +37,13 @@ namespace {
 using base::Event;
 using commands::MainParts;
 
-// UTF-8 with or without its mark, UTF-16 with its mark, or else code page 1252.
-std::string decoded(std::string bytes) {
-  if (qtcore::isMarkedUtf16(bytes)) return qtcore::fromMarkedUtf16(bytes);
-  if (bytes.starts_with(base::kUtf8Mark)) bytes.erase(0, base::kUtf8Mark.size());
-  return base::isValidUtf8(bytes) ? bytes : base::fromCodePage1252(bytes);
-}
+// Messages have a line for the place of a fault; in the terminal each is one line.
+std::string inOneLine(const std::string& message) { return base::replaceAll(message, "\n", " "); }
 
-std::string readAll(std::istream& stream, const std::string& name) {
+// Of a regular file all at once, since a text that grows piece by piece stands in memory twice.
+std::string readAll(std::istream& stream, std::size_t expected, const std::string& name) {
   std::string bytes;
+  bytes.reserve(expected + 1);
   std::array<char, 65536> buffer{};
   while (stream.read(buffer.data(), buffer.size()) || stream.gcount() > 0) {
     bytes.append(buffer.data(), static_cast<std::size_t>(stream.gcount()));
@@ -52,38 +53,46 @@ std::string readAll(std::istream& stream, const std::string& name) {
 }
 
 std::string readText(const std::string& file, const Streams& streams) {
-  if (file == "-") return readAll(streams.in, "Standardeingabe");
-  if (!std::filesystem::exists(file)) throw base::fileFailure(base::ErrorNumber::fileNotFound, file);
-  if (std::filesystem::is_directory(file)) throw base::fileFailure(base::ErrorNumber::pathFileAccess, file);
+  namespace fs = std::filesystem;
+  if (file == "-") return readAll(streams.in, 0, "Standardeingabe");
+  std::error_code error;
+  const fs::file_status status = fs::status(file, error);
+  if (!fs::exists(status)) throw base::fileFailure(error.value(), file);
+  if (fs::is_directory(status)) throw base::fileFailure(base::ErrorNumber::pathFileAccess, file);
   std::ifstream stream(file, std::ios::binary);
   if (!stream) throw base::fileFailure(base::ErrorNumber::permissionDenied, file);
-  return readAll(stream, file);
+  const std::uintmax_t size = fs::is_regular_file(status) ? fs::file_size(file, error) : 0;
+  return readAll(stream, error ? 0 : static_cast<std::size_t>(size), file);
 }
 
 std::string lettering(const PriceRequest& request, const Streams& streams) {
   if (!request.file) return request.text.value_or("");
-  std::string text = decoded(readText(*request.file, streams));
+  std::string text = base::decoded(readText(*request.file, streams));
   if (std::string_view(text).substr(std::min(text.find_first_not_of(" \t\r\n"), text.size())).starts_with("{\\rtf")) {
-    throw base::Failure(base::ErrorNumber::invalidCall,
-                        "Nur reine Textdateien werden gelesen, kein RTF: " + *request.file);
+    constexpr auto kNumber = base::ErrorNumber::invalidCall;
+    throw base::Failure(kNumber,
+                        base::withPlace("Nur reine Textdateien werden gelesen, kein RTF.", *request.file, kNumber));
   }
   return text;
 }
 
-lifecycle::ProgramDirectory directory(const PriceRequest& request) {
-  if (request.programDirectory && !std::filesystem::is_directory(*request.programDirectory)) {
-    throw WrongArgument("Das Verzeichnis \"" + *request.programDirectory + "\" gibt es nicht.");
-  }
-  return lifecycle::programDirectory(lifecycle::directoryCandidates(request.programDirectory));
+lifecycle::ProgramDirectory chosenDirectory(const PriceRequest& request) {
+  lifecycle::ProgramDirectory directory =
+      lifecycle::programDirectory(lifecycle::directoryCandidates(request.programDirectory));
+  if (const auto fault = lifecycle::faultOf(directory)) throw WrongArgument(*fault);
+  return directory;
 }
+
+void tellNote(std::ostream& notes, const std::string& text) { notes << "tessik: Hinweis: " << inOneLine(text) << '\n'; }
 
 // What is wrong with a stored count is told and passed over, as in the window; any other problem ends.
 void readSettings(lifecycle::Program& program, const PriceRequest& request, std::ostream& notes) {
   const settings::ReadReport report =
       settings::readSettings(program.paths, program.settings, settings::MissingNumber::keepsDefault);
   for (const settings::ReadProblem& problem : report.problems) {
-    if (problem.number != base::ErrorNumber::indexOutOfRange) throw base::Failure(problem.number, problem.text);
-    notes << "tessik: Hinweis: " << problem.text << '\n';
+    const base::Failure failure = settings::failureOf({problem});
+    if (problem.number != base::ErrorNumber::indexOutOfRange) throw failure;
+    tellNote(notes, failure.text());
   }
   settings::Rates& rates = program.settings.rates;
   rates.vatPercent = request.vatPercent.value_or(rates.vatPercent);
@@ -91,10 +100,32 @@ void readSettings(lifecycle::Program& program, const PriceRequest& request, std:
   rates.countBlanks = request.countBlanks.value_or(rates.countBlanks);
 }
 
-void loadLists(const MainParts& parts) {
+// Before the first start of the window there is no price list, and the one of a new directory stands in for it.
+void loadPrices(const MainParts& parts, const lifecycle::ProgramDirectory& directory, std::ostream& notes) {
+  const std::string file = parts.paths.priceDatabase();
+  if (directory.isUsersOwn && lifecycle::isFirstUse(directory.path)) {
+    calc::loadPrices(parts.window, lifecycle::samplePriceList(), file);
+    tellNote(notes, "Das sind Beispielpreise, denn eine eigene Preisliste gibt es noch nicht.\n" + file);
+  } else {
+    base::tagged("MAIN-tmrLoad", [&] { calc::LoadPriceDatabase(parts.window, file); });
+  }
+}
+
+void loadAdjustments(const MainParts& parts) {
   calc::fillAdjustments(parts.window.cboAufpreis, parts.settings.adjustments.surcharges);
   calc::fillAdjustments(parts.window.cboRabatt, parts.settings.adjustments.discounts);
-  base::tagged("MAIN-tmrLoad", [&] { calc::LoadPriceDatabase(parts.window, parts.paths.priceDatabase()); });
+}
+
+// A price of 0 for want of one is told.
+void tellMissingPrice(const MainParts& parts, std::ostream& notes) {
+  const frame::MainWindow& window = parts.window;
+  const auto index = static_cast<std::size_t>(window.cboBuchstabenhöhe.selected);
+  if (window.List1.items.empty()) {
+    tellNote(notes, "Die Preisliste ist leer, also ist der Preis 0.\n" + parts.paths.priceDatabase());
+  } else if (window.List1.items.at(index).find_first_not_of(' ') == std::string::npos) {
+    tellNote(notes, "Für die Buchstabenhöhe \"" + window.cboBuchstabenhöhe.text +
+                        "\" steht kein Preis in der Preisliste.\n" + parts.paths.priceDatabase());
+  }
 }
 
 std::string trimmed(const std::string& text) {
@@ -158,15 +189,18 @@ void typeAmounts(const base::Wiring& wiring, frame::MainWindow& window, const Pr
 
 std::string price(const PriceRequest& request, const Streams& streams) {
   TerminalPlatform platform;
-  const std::unique_ptr<lifecycle::Program> assembled = lifecycle::assemble(platform, directory(request));
+  const lifecycle::ProgramDirectory directory = chosenDirectory(request);
+  const std::unique_ptr<lifecycle::Program> assembled = lifecycle::assemble(platform, directory);
   lifecycle::Program& program = *assembled;
   program.information.directory.clear();  // the terminal form tells its errors, it keeps no log
   readSettings(program, request, streams.error);
   const MainParts parts = lifecycle::partsOf(program);
 
   parts.window.rtfText.setPlainText(lettering(request, streams));
-  loadLists(parts);
+  loadAdjustments(parts);
+  loadPrices(parts, directory, streams.error);
   setInputs(parts, request);
+  tellMissingPrice(parts, streams.error);
   calculate(parts);
   typeAmounts(program.wiring, parts.window, request);
   if (platform.message()) throw base::Failure(base::ErrorNumber::none, platform.message()->text);
@@ -178,7 +212,7 @@ std::string price(const PriceRequest& request, const Streams& streams) {
 int runPriceCommand(std::span<const std::string> arguments, const Streams& streams) {
   try {
     std::vector<std::string> texts(arguments.begin(), arguments.end());
-    for (std::string& text : texts) text = decoded(std::move(text));
+    for (std::string& text : texts) text = base::decoded(std::move(text));
     const PriceRequest request = parseArguments(texts);
     streams.out << (request.help      ? std::string(kPriceHelp)
                     : request.version ? base::versionLine() + "\n"
@@ -189,8 +223,8 @@ int runPriceCommand(std::span<const std::string> arguments, const Streams& strea
   } catch (const WrongArgument& wrong) {
     streams.error << "tessik: " << wrong.what() << " (tessik kalkuliere --help zeigt die Optionen)\n";
     return kExitWrongArgument;
-  } catch (const std::exception& failure) {
-    streams.error << "tessik: " << failure.what() << '\n';
+  } catch (const std::exception& fault) {
+    streams.error << "tessik: " << inOneLine(base::asFailure(fault).text()) << '\n';
     return kExitFailure;
   }
 }

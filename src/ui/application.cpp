@@ -74,13 +74,18 @@ int runApplication(int argc, char** argv) {
                  "Bildschirm rechnet \"tessik kalkuliere --text TEXT\".\n";
     return kExitNotStarted;
   }
+  const auto directory = lifecycle::programDirectory(lifecycle::directoryCandidates(options->programDirectory));
+  if (const auto fault = lifecycle::faultOf(directory)) {
+    std::cerr << "tessik: " << *fault << '\n';
+    return kExitWrongArgument;
+  }
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Tessik"));
   QApplication::setDesktopFileName(QStringLiteral("tessik"));
   // The loading screen goes before the main window comes; only closing that one ends the program.
   QApplication::setQuitOnLastWindowClosed(false);
   setUpAppearance(application);
-  return run(*options, lifecycle::programDirectory(lifecycle::directoryCandidates(options->programDirectory)));
+  return run(*options, directory);
 }
 
 }  // namespace ui

@@ -16,7 +16,7 @@ Desktop::Desktop(const lifecycle::ProgramDirectory& directory)
     : program_(lifecycle::assemble(platform_, directory)),
       mainForm_((offerWindows(), static_cast<MainForm&>(windows_.widgetOf(program_->windows.main)))) {
   gate_.setBeep([this] { platform_.beep(); });
-  gate_.setLastResort([this](const std::exception& fault) { program_->reporter.report(base::failureOf(fault)); });
+  gate_.setLastResort([this](const std::exception& fault) { program_->reporter.report(base::asFailure(fault)); });
   gate_.setWhenFree([this] {
     input_.release();
     if (ending_) QTimer::singleShot(0, this, &Desktop::goOnEnding);

@@ -29,7 +29,7 @@ ErrorNumber failureOf(const std::string& file, const std::function<void()>& acti
   try {
     action();
   } catch (const base::Failure& failure) {
-    EXPECT_EQ(failure.text(), base::errorText(failure.number()) + ": " + file);
+    EXPECT_EQ(failure.text(), base::withPlace(base::errorText(failure.number()), file, failure.number()));
     return failure.number();
   }
   return ErrorNumber::none;

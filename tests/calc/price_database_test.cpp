@@ -62,6 +62,7 @@ TEST(PriceDatabase, ATooLongPriceEndsTheLoadAndKeepsWhatCameBefore) {
     FAIL() << "a price of 17 characters was taken";
   } catch (const base::Failure& failure) {
     EXPECT_EQ(failure.number(), base::ErrorNumber::invalidCall);
+    EXPECT_NE(failure.text().find("\"20\""), std::string::npos) << failure.text();
   }
   EXPECT_EQ(window.cboBuchstabenhöhe.items.size(), 2);
   EXPECT_EQ(window.List1.items, std::vector<std::string>{"1234567890123.45"});

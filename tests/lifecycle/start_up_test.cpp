@@ -23,6 +23,8 @@ using Texts = std::vector<std::string>;
 constexpr const char* kGeneral =
     "[Einstellungen]\r\nMwst=19\r\nMaßeinheit=mm\r\nIndex1=1\r\nIndex2=1\r\nTVorn=0\r\nLZ=1\r\nSnd=Gong.wav\r\n";
 constexpr const char* kLists = "[Einstellungen]\r\nIndexp1=1\r\nIndexp2=1\r\n[Rabatte]\r\n10 %\r\n";
+constexpr const char* kNoAccess = "Auf die Datei kann nicht zugegriffen werden.";
+constexpr const char* kNoDirectory = "Das Verzeichnis wurde nicht gefunden.";
 constexpr const char* kPrices = "[Versalien]\r\n0=50\r\n1=100\r\n[Preise]\r\n0=1.25\r\n1=2.50\r\n";
 
 /// The directory of an installation that has run before.
@@ -131,7 +133,7 @@ TEST(StartUp, AFailedFirstStartReadsAndKeepsWhatStandsThere) {
   // In the way of the first copy.
   std::filesystem::create_directory(directory.path(".Tessik.ini.1.neu"));
   Session session(directory);
-  session.expectFailure("Fehler beim Zugriff auf Pfad oder Datei: " + directory.path("Tessik.ini.1"));
+  session.expectFailure(kNoAccess, directory.path("Tessik.ini.1"), 75);
   session.start();
   EXPECT_EQ(directory.read("Ostrowerk.ini"), kGeneral);
   std::filesystem::remove(directory.path(".Tessik.ini.1.neu"));
@@ -237,7 +239,8 @@ TEST(StartUp, AFailureBehindTheLoadingScreenStillEndsIt) {
   LaterSession session(directory);
   session.platform.userSettings["WinState"] = "2";
   session.expectFailure(
-      "Preisdatenbank: Der Preis \"12345678901234567…\" ist zu lang, höchstens 16 Zeichen haben Platz.");
+      "Der Preis \"12345678901234567\" der Buchstabenhöhe \"100\" ist zu lang, höchstens 16 Zeichen haben Platz.",
+      directory.path("Tessik.pdb"), 5);
   session.start();
   expectLoaded(session);
   EXPECT_EQ(session.window.state, base::WindowState::maximised);
@@ -263,9 +266,10 @@ TEST(StartUp, AllThatCouldNotBeReadIsOneMessageAndIsCopiedBeforeItIsOverwritten)
   directory.write("Ostrowerk.ini", damaged);
   LaterSession session(directory);
   const std::string file = directory.path("Ostrowerk.ini");
-  session.expectFailure(file + ": Der Wert \"abc\" der Einstellung \"Mwst\" ist keine ganze Zahl; es gilt 16.\n" +
-                        file +
-                        ": Der Wert \"300\" der Einstellung \"Index1\" liegt nicht zwischen 1 und 105; es gilt 105.");
+  session.expectFailure(
+      "Der Wert \"abc\" der Einstellung \"Mwst\" ist keine Zahl; es gilt 16.\n" + file +
+          " (Fehler 13)\nDer Wert \"300\" der Einstellung \"Index1\" ist größer als 105; es gilt 105.",
+      file, 9);
   session.start();
   EXPECT_NE(directory.read("Error.log").find("Fehlernummer=13\r\n"), std::string::npos);
   EXPECT_NE(directory.read("Error.log").find("Fehlerprozedur=MAIN-frmLoad\r\n"), std::string::npos);
@@ -278,17 +282,34 @@ TEST(StartUp, AllThatCouldNotBeReadIsOneMessageAndIsCopiedBeforeItIsOverwritten)
   EXPECT_FALSE(std::filesystem::exists(directory.path("Ostrowerk.ini.2"))) << "one copy is enough";
 }
 
+TEST(StartUp, AListThatNobodyWritesIsToldAtEachStartAndCopiedOnce) {
+  const Installation directory;
+  const std::string damaged = "[Einstellungen]\r\nIndexp1=1\r\nIndexp2=900\r\n[Rabatte]\r\n10 %\r\n[Fremd]\r\nx\r\n";
+  directory.write("Tessik.ini", damaged);
+  for (int start = 1; start <= 3; ++start) {
+    LaterSession session(directory);
+    session.expectFailure("Der Wert \"900\" der Einstellung \"Indexp2\" ist größer als 500; es gilt 500.",
+                          directory.path("Tessik.ini"), 9);
+    session.start();
+    session.end();
+  }
+  EXPECT_EQ(directory.read("Tessik.ini.1"), damaged);
+  EXPECT_NE(directory.read("Tessik.ini"), damaged) << "the lists stand at the end now";
+  EXPECT_FALSE(std::filesystem::exists(directory.path("Tessik.ini.2")));
+}
+
 TEST(StartUp, ADirectoryInPlaceOfAFileLosesNothingOfTheOther) {
   const Installation directory;
   directory.block("Ostrowerk.ini");
   LaterSession session(directory);
   expectMissing(session, "Ostrowerk.ini", base::MessageAnswer::yes);
-  const std::string refused = "Fehler beim Zugriff auf Pfad oder Datei: " + directory.path("Ostrowerk.ini");
-  session.expectFailure(refused);  // creating it
-  session.expectFailure(refused);  // reading it
+  const std::string refused = directory.path("Ostrowerk.ini");
+  session.expectFailure(kNoAccess, refused, 75);  // creating it
+  session.expectFailure(kNoAccess, refused, 75);  // reading it
   session.start();
   EXPECT_EQ(rowsOf(session.window.cboAufpreis), (Texts{"0.00 EUR", "10 %"})) << "the other file is read";
-  session.expectFailure(refused);  // writing it
+  EXPECT_NE(directory.read("Error.log").find("Fehlerprozedur=modGlobal-INIGetValue\r\n"), std::string::npos);
+  session.expectFailure(kNoAccess, refused, 75);  // writing it
   session.end();
   const auto files = filesOf(directory);
   EXPECT_TRUE(std::any_of(files.begin(), files.end(), [](const auto& file) { return file.second == kLists; }))
@@ -302,10 +323,10 @@ TEST(StartUp, ADirectoryThatCannotBeCreatedLosesNoUserKey) {
   session.platform.userSettings["FA"] = "Schilder Anna";
   session.program.paths.programDirectory = directory.path("datei/tessik");
   session.program.createsDirectory = true;
-  session.expectFailure("Pfad nicht gefunden: " + directory.path("datei/tessik.neu"));
+  session.expectFailure(kNoDirectory, directory.path("datei/tessik.neu"), 76);
   session.start();
   expectLoaded(session);
-  session.expectFailure("Pfad nicht gefunden: " + directory.path("datei/tessik/Ostrowerk.ini"));
+  session.expectFailure(kNoDirectory, directory.path("datei/tessik/Ostrowerk.ini"), 76);
   session.end();
   EXPECT_EQ(session.platform.userSettings["FA"], "Schilder Anna");
   EXPECT_EQ(session.platform.userSettings["Version"], "1.4");
@@ -340,12 +361,12 @@ TEST(ShutDown, WhatCannotBeWrittenIsOneMessageEachAndHoldsUpNothingElse) {
   session.program.settings.rates.vatPercent = 7;
   directory.block("Tessik.ini");
   session.platform.storeFailure = base::Failure(ErrorNumber::permissionDenied);
-  session.expectFailure("Zugriff verweigert");
-  session.expectFailure("Fehler beim Zugriff auf Pfad oder Datei: " + directory.path("Tessik.ini"));
+  session.expectFailure(base::errorText(ErrorNumber::permissionDenied));
+  session.expectFailure(kNoAccess, directory.path("Tessik.ini"), 75);
   session.end();
   EXPECT_FALSE(session.window.keepsOpen);
   EXPECT_NE(directory.read("Ostrowerk.ini").find("Mwst=7\r\n"), std::string::npos);
-  EXPECT_NE(directory.read("Error.log").find("Fehlerprozedur=MAIN-frmUnload\r\n"), std::string::npos);
+  EXPECT_NE(directory.read("Error.log").find("Fehlerprozedur=modGlobal-INISetArray\r\n"), std::string::npos);
 
   LaterSession homeless(directory);
   directory.remove("Tessik.ini");
@@ -353,7 +374,7 @@ TEST(ShutDown, WhatCannotBeWrittenIsOneMessageEachAndHoldsUpNothingElse) {
   homeless.start();
   std::filesystem::remove_all(directory.path(""));
   for (const char* const name : {"Tessik.ini", "Ostrowerk.ini"}) {
-    homeless.expectFailure("Pfad nicht gefunden: " + directory.path(name));
+    homeless.expectFailure(kNoDirectory, directory.path(name), 76);
   }
   homeless.end();
   EXPECT_FALSE(std::filesystem::exists(directory.path("")));

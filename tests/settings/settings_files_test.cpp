@@ -55,7 +55,7 @@ TEST_F(SettingsFiles, NewFilesHoldMarkerAndDefaultsInOrder) {
                                               "[Rabatte2]\r\n3 %\r\n[Versalienhöhe]\r\n50\r\n");
 }
 
-TEST_F(SettingsFiles, AStoredCountIsHeldInBoundsAndReportedOnce) {
+TEST_F(SettingsFiles, AStoredCountIsRoundedHeldInBoundsAndReportedOnce) {
   struct Row {
     std::string stored;
     int held;
@@ -63,9 +63,16 @@ TEST_F(SettingsFiles, AStoredCountIsHeldInBoundsAndReportedOnce) {
   };
   constexpr auto kOut = ErrorNumber::indexOutOfRange;
   constexpr auto kNoNumber = ErrorNumber::typeMismatch;
-  const Row rows[] = {
-      {" 105 ", 105, ErrorNumber::none}, {"106", 105, kOut}, {"0", 1, kOut}, {"abc", 1, kNoNumber}, {"", 1, kNoNumber},
-      {"99999999999", 1, kNoNumber}};
+  const Row rows[] = {{" 105 ", 105, ErrorNumber::none},
+                      {"105,5", 105, kOut},
+                      {"2,5", 2, ErrorNumber::none},
+                      {"3.5", 4, ErrorNumber::none},
+                      {"0", 0, ErrorNumber::none},
+                      {"-3", 0, ErrorNumber::none},
+                      {"abc", 1, kNoNumber},
+                      {"", 1, kNoNumber},
+                      {"2 x", 1, kNoNumber},
+                      {"99999999999", 1, ErrorNumber::overflow}};
   writeLists();
   for (const Row& row : rows) {
     writeGeneral(row.stored);
@@ -78,8 +85,8 @@ TEST_F(SettingsFiles, AStoredCountIsHeldInBoundsAndReportedOnce) {
     ASSERT_EQ(report.problems.size(), isFine ? 0U : 1U) << row.stored;
     if (!isFine) {
       EXPECT_EQ(report.problems[0].number, row.problem) << row.stored;
-      EXPECT_NE(report.problems[0].text.find("Index1"), std::string::npos) << report.problems[0].text;
-      EXPECT_NE(report.problems[0].text.find(paths.generalSettings()), std::string::npos);
+      EXPECT_NE(report.problems[0].sentence.find("Index1"), std::string::npos) << report.problems[0].sentence;
+      EXPECT_EQ(report.problems[0].path, paths.generalSettings());
     }
     EXPECT_EQ(settings.rates.vatPercent, 19) << "reading goes on";
     EXPECT_EQ(settings.reminderSound, "Gong.wav") << "reading goes on";
@@ -95,7 +102,8 @@ TEST_F(SettingsFiles, MissingTextsAreEmptyAndMissingNumbersKeepTheDefault) {
   EXPECT_EQ(settings.rates.countBlanks, 1);
   EXPECT_EQ(report.problems.size(), 6U);  // Index1, Index2, TVorn, LZ; Indexp1, Indexp2
   EXPECT_FALSE(report.generalIsWhole);
-  EXPECT_FALSE(report.listsAreWhole);
+  EXPECT_TRUE(report.listsAreWhole);
+  EXPECT_FALSE(report.restIsWhole);
 
   settings = {};
   const ReadReport lenient = read(MissingNumber::keepsDefault);
@@ -130,7 +138,7 @@ TEST_F(SettingsFiles, FurtherPricesAreReadFromNumberedSectionsWithinTheirBound) 
   const ReadReport report = read();
   ASSERT_EQ(report.problems.size(), 1U);
   EXPECT_EQ(report.problems[0].number, ErrorNumber::indexOutOfRange);
-  EXPECT_FALSE(report.listsAreWhole);
+  EXPECT_FALSE(report.restIsWhole);
   EXPECT_EQ(settings.further.prices[499], "5");
 }
 
@@ -184,6 +192,9 @@ TEST_F(SettingsFiles, ANumberedCopyTakesTheFirstFreeNameAndEveryByte) {
   EXPECT_EQ(keepNumberedCopy(path), path + ".3");
   EXPECT_EQ(directory.read("Ostrowerk.ini.3"), bytes);
   EXPECT_EQ(directory.read("Ostrowerk.ini.1"), "älter");
+  EXPECT_EQ(keepNumberedCopy(path), path + ".3") << "it is kept already";
+  directory.write("Ostrowerk.ini", "neu");
+  EXPECT_EQ(keepNumberedCopy(path), path + ".4");
 }
 
 }  // namespace

@@ -12,6 +12,10 @@ void Session::expectFailure(std::string text) {
   platform.expectMessage({.text = std::move(text), .title = "Fehler", .icon = base::MessageIcon::stop});
 }
 
+void Session::expectFailure(const std::string& sentence, const std::string& place, int number) {
+  expectFailure(sentence + "\n" + place + " (Fehler " + std::to_string(number) + ")");
+}
+
 void Session::start() {
   ASSERT_EQ(load(), lifecycle::StartUp::goesOn);
   ASSERT_TRUE(window.tmrLoad.running);

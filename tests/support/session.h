@@ -18,6 +18,8 @@ struct Session : Desk {
 
   /// Expects that a failure is shown with this text.
   void expectFailure(std::string text);
+  /// The same with the line that tells where it happened.
+  void expectFailure(const std::string& sentence, const std::string& place, int number);
   /// The load handler.
   lifecycle::StartUp load() { return lifecycle::load(program); }
   /// The load handler and, as it lets the program go on, what tmrLoad does.

@@ -123,7 +123,7 @@ TEST_F(PriceCommand, TellsWrongArgumentsFromFailures) {
       {{"--text", "a", "--zusatz", "5-3"}, 2, "--zusatz"},
       {{"--daten=" + directory.path("fehlt")}, 2, "--daten steht zweimal da"},
       {{"--aufpreis-betrag", "5"}, 1, "Division durch Null"},
-      {{"--datei", directory.path("fehlt.txt")}, 1, "Datei nicht gefunden"},
+      {{"--datei", directory.path("fehlt.txt")}, 1, "Die Datei wurde nicht gefunden."},
       {{"--datei", directory.path("a.rtf")}, 1, "RTF"},
   };
   for (const Row& row : rows) {
