@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -250,6 +251,28 @@ Figures measureSimpleIni(const Data& data) {
 }
 #endif
 
+// A section with a million lines is read and every line's key looked up.
+void measureMany(const char* name, const std::function<std::string(int)>& keyOf) {
+  constexpr int kLines = 1'000'000;
+  constexpr int kFewRuns = 5;
+  std::string bytes = "[s]\n";
+  std::vector<std::string> keys;
+  for (int i = 0; i < kLines; ++i) bytes += keys.emplace_back(keyOf(i)) + "=10\n";
+  const double time = bench::medianMilliseconds<bench::ProcessorClock>(kFewRuns, kNothing, [&](int) {
+    const base::ProfileFile file = base::ProfileFile::parse(bytes);
+    for (const std::string& key : keys) require(file.value("s", key, base::kSettingBuffer) == "10", name);
+  });
+  std::printf("%-28s %8.0f\n", name, time);
+}
+
+void measureManyKeys() {
+  std::printf("\nOne section of 1,000,000 lines, every key looked up:\n");
+  measureMany("equal numbers", [](int) { return std::string("0"); });
+  measureMany("equal names", [](int) { return std::string("key 0000"); });
+  measureMany("counted numbers", [](int i) { return std::to_string(i); });
+  measureMany("counted names", [](int i) { return "key " + std::to_string(i); });
+}
+
 void printRow(bench::Table& table, const char* name, const Figures& figures) {
   table.row(name, {figures.load, figures.rewrite, figures.oneKey});
 }
@@ -286,5 +309,6 @@ int main(int argumentCount, char** arguments) {
 #endif
   std::printf("\nTessik rewrites by whole sections in %.2f.\n", measureOurSetSection(data));
   measureDisk(data);
+  measureManyKeys();
   std::filesystem::remove_all(directory);
 }

@@ -28,8 +28,11 @@ bool asksFor(const std::vector<std::string>& arguments, std::string_view option)
   return std::find(arguments.begin(), arguments.end(), option) != arguments.end();
 }
 
-// A text that nobody could read is a failure.
-int print(std::string_view text) { return std::cout << text << std::flush ? EXIT_SUCCESS : EXIT_FAILURE; }
+int print(std::string_view text) {
+  if (std::cout << text << std::flush) return EXIT_SUCCESS;
+  std::cerr << "tessik: Die Ausgabe konnte nicht geschrieben werden.\n";
+  return EXIT_FAILURE;
+}
 
 }  // namespace
 

@@ -52,6 +52,11 @@ bool sameButForCase(std::string_view a, std::string_view b) {
 }
 
 std::uint32_t nameHash(std::string_view name) {
+  if (name.empty()) return 0;
+  // The last byte is added as it is, so that names which count up have neighbouring slots and share a line of the
+  // cache.
+  const std::uint64_t last = wordAt<std::uint8_t>(&name.back());
+  name.remove_suffix(1);
   std::uint64_t hash = name.size();
   for (; name.size() >= 8; name.remove_prefix(8)) hash = mixed(hash, wordAt<std::uint64_t>(name.data()));
   if (name.size() >= 4) {
@@ -59,7 +64,7 @@ std::uint32_t nameHash(std::string_view name) {
     name.remove_prefix(4);
   }
   for (const char byte : name) hash = mixed(hash, wordAt<std::uint8_t>(&byte));
-  return static_cast<std::uint32_t>(hash);
+  return static_cast<std::uint32_t>(hash + last);
 }
 
 void NameIndex::reset(std::size_t count) {

@@ -52,7 +52,7 @@ bool readsBackAsKey(std::string_view name) {
 }
 
 // Where a new key belongs: behind the last line that is neither blank nor comment.
-auto endOfData(std::deque<ProfileLine>& lines) {
+auto endOfData(std::vector<ProfileLine>& lines) {
   auto end = lines.end();
   while (end != lines.begin() && !std::prev(end)->isData()) --end;
   return end;
@@ -94,7 +94,7 @@ ProfileSections::ProfileSections(std::string text)
       lineEnd_(firstLineEnd(source_)),
       lacksLineEnd_(lineEndOf(source_).empty()) {
   for (LineReader reader(source_); !reader.atEnd();) {
-    std::deque<ProfileLine>& lines = sections_.back().lines;
+    std::vector<ProfileLine>& lines = sections_.back().lines;
     const ProfileLine& line = lines.emplace_back(reader.next());
     if (line.kind() != LineKind::header) continue;
     const ProfileLine header = line;

@@ -19,7 +19,7 @@ namespace base {
 /// What is deleted stays in its place as a line of no bytes, so that positions in an index stay what they are.
 struct ProfileSection {
   ProfileLine header;  // of no bytes also for the lines before the first header
-  std::deque<ProfileLine> lines;
+  std::vector<ProfileLine> lines;
   // The keys of long sections count up from 0 and need no index: as far as they have been looked at, the key "7" stands
   // in lines[7], or was there until it was deleted.
   std::size_t counted = 0;

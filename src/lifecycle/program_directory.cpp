@@ -42,7 +42,8 @@ DirectoryCandidates directoryCandidates(std::optional<std::string> given) {
 ProgramDirectory programDirectory(const DirectoryCandidates& candidates) {
   if (candidates.given) return {.path = *candidates.given};
   const settings::Paths portable{candidates.programFileDirectory};
-  if (base::FileExists(portable.generalSettings())) return {.path = candidates.programFileDirectory};
+  const bool isKnown = !candidates.programFileDirectory.empty();
+  if (isKnown && base::FileExists(portable.generalSettings())) return {.path = candidates.programFileDirectory};
   return {.path = base::joinPath(candidates.userDataDirectory, "tessik"), .isUsersOwn = true};
 }
 

@@ -105,7 +105,7 @@ void loadPrices(const MainParts& parts, const lifecycle::ProgramDirectory& direc
   const std::string file = parts.paths.priceDatabase();
   if (directory.isUsersOwn && lifecycle::isFirstUse(directory.path)) {
     calc::loadPrices(parts.window, lifecycle::samplePriceList(), file);
-    tellNote(notes, "Das sind Beispielpreise, denn eine eigene Preisliste gibt es noch nicht.\n" + file);
+    tellNote(notes, "Das sind Beispielpreise; eine eigene Preisliste legt der erste Start mit Fenster an.");
   } else {
     base::tagged("MAIN-tmrLoad", [&] { calc::LoadPriceDatabase(parts.window, file); });
   }

@@ -31,13 +31,14 @@ Store program() { return Store(QStringLiteral("Prog")); }
 Store windows() { return Store(QStringLiteral("Fenster")); }
 
 void failUnlessWritten(Store& store) {
-  const std::string file = toUtf8(store->fileName());
+  const auto fail = [&](base::ErrorNumber number, const char* sentence) {
+    throw base::Failure(number, base::withPlace(sentence, toUtf8(store->fileName()), number));
+  };
   switch (store->status()) {
     case QSettings::AccessError:
-      throw base::Failure(base::ErrorNumber::permissionDenied,
-                          "Die Benutzereinstellungen lassen sich nicht schreiben: " + file);
+      return fail(base::ErrorNumber::permissionDenied, "Die Benutzereinstellungen lassen sich nicht schreiben.");
     case QSettings::FormatError:
-      throw base::Failure(base::ErrorNumber::deviceIo, "Die Datei der Benutzereinstellungen war beschädigt: " + file);
+      return fail(base::ErrorNumber::deviceIo, "Die Datei der Benutzereinstellungen war beschädigt.");
     case QSettings::NoError:
       break;
   }

@@ -1,8 +1,12 @@
 // Reading and replacing files: what is kept, what is refused, and that nothing is lost or left over.
 #include "base/files.h"
 
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <filesystem>
@@ -64,6 +68,46 @@ TEST(ReplaceFile, FollowsLinks) {
   EXPECT_TRUE(fs::is_symlink(directory.path("linkOfLink")) && fs::is_symlink(directory.path("dangling")));
   EXPECT_EQ(directory.read("real/a.ini"), "new");
   EXPECT_EQ(directory.read("real/b.ini"), "fresh");
+}
+
+// Runs `action` in a process of its own as a user of these groups, the first of them his own; false when that fails.
+bool asAnotherUser(uid_t user, const std::vector<gid_t>& groups, const std::function<void()>& action) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const bool is = ::setgroups(groups.size(), groups.data()) == 0 && ::setgid(groups[0]) == 0 && ::setuid(user) == 0;
+    if (is) action();
+    ::_exit(is ? 0 : 1);
+  }
+  int status = 0;
+  return ::waitpid(child, &status, 0) == child && status == 0;
+}
+
+TEST(ReplaceFile, KeepsTheGroupWithoutTheOwnerAndElseGivesNobodyARight) {
+  if (::geteuid() != 0) GTEST_SKIP() << "takes root to become another user";
+  constexpr uid_t kOther = 1002;
+  constexpr gid_t kShared = 2000;
+  struct Row {
+    mode_t before;
+    std::vector<gid_t> groups;
+    gid_t group;
+    mode_t after;
+  };
+  for (const Row& row : {Row{0664, {kOther, kShared}, kShared, 0664}, Row{0662, {kOther}, kOther, 0622},
+                         Row{0606, {kOther}, kOther, 0600}}) {
+    const TemporaryDirectory directory;
+    directory.write("a.ini", "old");
+    const std::string file = directory.path("a.ini");
+    ASSERT_EQ(::chown(file.c_str(), 1001, kShared), 0);
+    fs::permissions(directory.path(""), fs::perms(0777));
+    fs::permissions(file, fs::perms(row.before));
+    EXPECT_TRUE(asAnotherUser(kOther, row.groups, [&] { base::replaceFile(file, "new"); }));
+    struct stat now {};
+    ASSERT_EQ(::stat(file.c_str(), &now), 0);
+    EXPECT_EQ(directory.read("a.ini"), "new");
+    EXPECT_EQ(now.st_uid, kOther);
+    EXPECT_EQ(now.st_gid, row.group);
+    EXPECT_EQ(now.st_mode & 0777U, row.after);
+  }
 }
 
 TEST(ReplaceFile, RefusesWhatIsNoWritableFile) {

@@ -159,6 +159,26 @@ TEST(ProfileFile, KeepsTheEncodingOfTheFile) {
   });
 }
 
+TEST(ProfileFile, KeepsUtf16OfEitherByteOrder) {
+  // [s] CR LF €=𝄞 CR LF, and half a character at the end
+  const std::u16string before = u"\uFEFF[s]\r\n€=𝄞\r\n\xD834";
+  const std::u16string after = u"\uFEFF[s]\r\n€=ß🙂\r\n\uFFFD";
+  for (const bool isBigEndian : {false, true}) {
+    const auto bytesOf = [isBigEndian](const std::u16string& text) {
+      std::string bytes;
+      for (const char16_t unit : text) {
+        const std::string pair = {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
+        bytes += isBigEndian ? std::string(pair.rbegin(), pair.rend()) : pair;
+      }
+      return bytes;
+    };
+    ProfileFile file = ProfileFile::parse(bytesOf(before));
+    EXPECT_EQ(file.value("s", "€", 255), "𝄞");
+    file.setValue("S", "€", "ß🙂");
+    EXPECT_EQ(file.bytes(), bytesOf(after));
+  }
+}
+
 TEST(ProfileFile, DeletingWhatIsMissingWritesNothing) {
   const support::TemporaryDirectory directory;
   ProfileFile file = ProfileFile::load(directory.path("missing/x.ini"));

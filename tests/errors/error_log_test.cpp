@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <limits>
+#include <stdexcept>
 #include <string>
 
 #include "base/build_values.h"
@@ -97,6 +98,14 @@ TEST_F(ErrorLog, TheInnermostTagIsRecordedAndTheTextStaysOneLine) {
   reporting(reporter, "MAIN-tmrLoad",
             [] { base::tagged("modGlobal-INISetValue", [] { throw Failure(ErrorNumber::deviceIo, "eins\nzwei"); }); });
   EXPECT_NE(log().find("Fehlerbeschreibung=eins zwei\r\nFehlerprozedur=modGlobal-INISetValue\r\n"), std::string::npos);
+}
+
+TEST_F(ErrorLog, AnyExceptionIsAFailureUnderItsTag) {
+  platform.expectMessage(
+      {.text = "Interner Fehler\nkaputt (Fehler 51)", .title = "Fehler", .icon = base::MessageIcon::stop});
+  reporting(reporter, "MAIN-frmLoad", [] { base::tagged("MAIN-Calc", [] { throw std::runtime_error("kaputt"); }); });
+  EXPECT_NE(log().find("Fehlernummer=51\r\n"), std::string::npos);
+  EXPECT_NE(log().find("Fehlerprozedur=MAIN-Calc\r\n"), std::string::npos);
 }
 
 TEST_F(ErrorLog, WhereItCannotBeWrittenTheMessageIsTheOnlyTrace) {

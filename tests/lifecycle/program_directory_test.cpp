@@ -2,6 +2,8 @@
 #include "lifecycle/program_directory.h"
 
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -44,6 +46,25 @@ TEST(ProgramDirectory, TheUsersDataLieWhereTheDesktopSays) {
   EXPECT_EQ(directoryCandidates({}).userDataDirectory, "/srv/daten");
   ::unsetenv("XDG_DATA_HOME");
   EXPECT_TRUE(std::filesystem::is_directory(directoryCandidates({}).programFileDirectory));
+}
+
+TEST(ProgramDirectory, OnlyAGivenOneMustBeThere) {
+  const support::TemporaryDirectory there;
+  there.write("datei", "");
+  EXPECT_EQ(faultOf({.path = there.path("")}), std::nullopt);
+  EXPECT_EQ(faultOf({.path = there.path("fehlt"), .isUsersOwn = true}), std::nullopt);
+  EXPECT_EQ(faultOf({.path = "/fehlt"}), "Das Verzeichnis \"/fehlt\" gibt es nicht.");
+  EXPECT_EQ(faultOf({.path = there.path("datei")}), "\"" + there.path("datei") + "\" ist kein Verzeichnis.");
+}
+
+TEST(ProgramDirectory, WithoutHomeTheAccountsCounts) {
+  ::setenv("HOME", "/home/anna", 1);
+  ensureHome();
+  EXPECT_EQ(std::string(std::getenv("HOME")), "/home/anna");
+  ::unsetenv("HOME");
+  ensureHome();
+  ASSERT_NE(std::getenv("HOME"), nullptr);
+  EXPECT_EQ(std::string(std::getenv("HOME")), ::getpwuid(::getuid())->pw_dir);
 }
 
 TEST(FirstUse, TheSamplePriceListIsWholeAndPricesEveryHeight) {

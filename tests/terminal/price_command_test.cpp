@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -132,6 +133,34 @@ TEST_F(PriceCommand, TellsWrongArgumentsFromFailures) {
     EXPECT_NE(outcome.error.find(row.message), std::string::npos) << outcome.error;
     EXPECT_EQ(outcome.out, "") << row.message;
   }
+}
+
+TEST_F(PriceCommand, APriceThatNobodySetIsTold) {
+  const std::pair<std::string, std::string> rows[] = {
+      {"[Versalien]\n0=50\n", "kein Preis"}, {"", "Preisliste ist leer"}, {"[Versalien]\n0=50\n[Preise]\n0=0\n", ""}};
+  for (const auto& [list, note] : rows) {
+    directory.write("Tessik.pdb", list);
+    const Outcome outcome = run({"--text", "a"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.error.empty(), note.empty());
+    EXPECT_NE(outcome.error.find(note), std::string::npos) << outcome.error;
+  }
+}
+
+TEST(PriceCommandWithoutData, TakesTheSamplePricesAndSaysSo) {
+  const support::TemporaryDirectory home;
+  ::setenv("XDG_DATA_HOME", home.path("").c_str(), 1);
+  for (const bool isThere : {false, true}) {
+    if (isThere) std::filesystem::create_directory(home.path("tessik"));
+    std::istringstream in;
+    std::ostringstream out;
+    std::ostringstream error;
+    const std::vector<std::string> arguments = {"--text", "AB"};
+    EXPECT_EQ(terminal::runPriceCommand(arguments, {.in = in, .out = out, .error = error}), 0);
+    EXPECT_EQ(out.str().find("1,70 EUR") == std::string::npos, isThere) << out.str();
+    EXPECT_EQ(error.str().find("Beispielpreise") == std::string::npos, isThere) << error.str();
+  }
+  ::unsetenv("XDG_DATA_HOME");
 }
 
 TEST_F(PriceCommand, RefusesSettingsThatAreNoNumbersAndCreatesNothing) {
