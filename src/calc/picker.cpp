@@ -16,6 +16,7 @@ void wirePicker(base::Wiring& wiring, PickerWindow& picker, base::Platform& plat
   wiring.on(picker.lstAuswahl, base::Event::keyEnter, choose);
   wiring.on(picker.lstAuswahl, base::Event::keyEscape, leave);
   wiring.on(picker.lstAuswahl, base::Event::rightPress, leave);
+  wiring.on(picker, base::Event::rightPress, leave);
 }
 
 void fillPicker(PickerWindow& picker, const settings::AdjustmentList& list) {

@@ -53,8 +53,10 @@ double amountOfPercentage(Currency net, double percent) { return net.toDouble() 
 
 double percentageOfAmount(Currency net, double amount) {
   if (net == Currency())
-    throw base::Failure(base::ErrorNumber::divisionByZero,
-                        "Division durch Null: Der Nettopreis ist 0, davon gibt es keinen Prozentsatz.");
+    throw base::Failure(
+        base::ErrorNumber::divisionByZero,
+        "Bitte zuerst eine Texthöhe mit Preis und eine Stückzahl ab 1 angeben: Solange der Nettopreis 0 "
+        "ist, gibt es von ihm keinen Prozentsatz. (Division durch Null)");
   return (net.toDouble() + amount) * 100 / net.toDouble() - 100;
 }
 

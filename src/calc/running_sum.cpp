@@ -13,6 +13,7 @@ base::Currency sumOfEntries(const base::ItemList& entries) {
 
 void showSum(frame::MainWindow& window, const base::NumberFormat& format) {
   window.lblRCalc.text = base::euroText(sumOfEntries(window.cboCalc.items), format);
+  window.lblRCalc.toolTip = "Gesamtsumme des Rechners: " + window.lblRCalc.text;
 }
 
 void addByHand(frame::MainWindow& window, const base::NumberFormat& format) {
@@ -21,7 +22,8 @@ void addByHand(frame::MainWindow& window, const base::NumberFormat& format) {
   const std::string entry = entryText(amount);
   if (base::leadingNumber(entry) != 0) {
     window.cboCalc.items.add(entry);
-    window.txtAddPerHand.wantsSelectAll = true;
+    window.txtAddPerHand.text.clear();
+    window.txtAddPerHand.wantsFocus = true;
   }
   showSum(window, format);
 }

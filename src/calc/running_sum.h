@@ -24,7 +24,8 @@ base::Currency sumOfEntries(const base::ItemList& entries);
 /// Shows the sum of cboCalc in lblRCalc, in the user's locale.
 void showSum(frame::MainWindow& window, const base::NumberFormat& format);
 
-/// Adds the amount typed in txtAddPerHand as a new entry unless it is 0, then shows the sum.
+/// Adds the amount typed in txtAddPerHand as a new entry and empties the box for the next one, unless it is 0;
+/// then shows the sum.
 void addByHand(frame::MainWindow& window, const base::NumberFormat& format);
 
 }  // namespace calc

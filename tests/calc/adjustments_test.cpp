@@ -52,7 +52,9 @@ TEST(Adjustments, EachBoxKeepsItsPartnerInStep) {
 TEST(Adjustments, AnAmountOnNothingIsADivisionByZero) {
   PricedDesk desk;
   desk.type(desk.window.txtStück, "0");
-  desk.platform.expectMessage({.text = "Division durch Null: Der Nettopreis ist 0, davon gibt es keinen Prozentsatz.",
+  desk.platform.expectMessage({.text =
+                                   "Bitte zuerst eine Texthöhe mit Preis und eine Stückzahl ab 1 angeben: Solange der "
+                                   "Nettopreis 0 ist, gibt es von ihm keinen Prozentsatz. (Division durch Null)",
                                .title = "Fehler",
                                .icon = base::MessageIcon::stop});
   desk.type(desk.window.txtProzentDM, "5");
@@ -117,10 +119,12 @@ TEST(Adjustments, ThePickerSelectsTheSameRowOfTheComboBox) {
   EXPECT_EQ(desk.window.cboAufpreis.text, "10 %");
   EXPECT_EQ(desk.window.lblPNettoAuf.text, "88,00 EUR");
 
-  for (const Event leave : {Event::keyEscape, Event::rightPress}) {
-    desk.platform.expectModal("frmAuswahlAR", [&](base::Window&) {
+  using Leave = std::pair<base::EventSource, Event>;
+  for (const auto& [source, event] : {Leave{picker.lstAuswahl, Event::keyEscape},
+                                      Leave{picker.lstAuswahl, Event::rightPress}, Leave{picker, Event::rightPress}}) {
+    desk.platform.expectModal("frmAuswahlAR", [&, from = source, leave = event](base::Window&) {
       picker.lstAuswahl.current = 2;
-      desk.program.wiring.fire(picker.lstAuswahl, leave);
+      EXPECT_TRUE(desk.program.wiring.fire(from, leave));
     });
     desk.click(desk.window.cmdAufpreisListe);
     EXPECT_EQ(desk.window.cboAufpreis.text, "10 %");
