@@ -44,11 +44,14 @@ bool selectionIsOneLineEnd(const base::RichText& document) {
 
 void countCharacters(Run& run) {
   const base::RichText& document = run.parts.document;
-  const base::TextCount count = document.selection().length >= 1 ? document.countSelection() : document.countAll();
+  const bool ofSelection = document.selection().length >= 1;
+  const base::TextCount count = ofSelection ? document.countSelection() : document.countAll();
   const std::int64_t characters = run.parts.rates.countBlanks == 0 ? count.characters - count.blanks : count.characters;
   if (characters > std::numeric_limits<std::int32_t>::max()) throw base::Failure(base::ErrorNumber::overflow);
   run.results.TextLength = static_cast<std::int32_t>(characters);
   show(run.window.lblTextlenBox, std::to_string(characters), "Textlänge in Zeichen: ");
+  run.window.lblMarkierung.visible = ofSelection;
+  run.window.lblMarkierungZeichen.visible = ofSelection;
 }
 
 void lookUpPrice(Run& run) {

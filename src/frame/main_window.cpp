@@ -14,7 +14,12 @@ MainWindow::MainWindow() : Window("frmMain") {
   }
   lblNettoDM.text = "Netto gesamt";
   lblBruttoDM.text = "Brutto gesamt";
+  for (base::Label* label : {&lblMarkierung, &lblMarkierungZeichen}) {
+    label->text = "nur Markierung";
+    label->visible = false;
+  }
   lblRCalc.text = "0.00 EUR";
+  lblRCalc.toolTip = "Gesamtsumme des Rechners: " + lblRCalc.text;
 }
 
 }  // namespace frame

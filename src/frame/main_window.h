@@ -40,8 +40,10 @@ namespace frame {
   CONTROL(base::Label, lblMwstG)                                                               \
   CONTROL(base::Label, lblBruttoDM)                                                            \
   CONTROL(base::Label, lblBruttoGesamt)                                                        \
+  CONTROL(base::Label, lblMarkierung)            /* while a selection prices only itself */    \
   /* the single results */                                                                     \
   CONTROL(base::Label, lblTextlenBox)                                                          \
+  CONTROL(base::Label, lblMarkierungZeichen)     /* the same, beside the counts */             \
   CONTROL(base::Label, lbltexthöhe)                                                            \
   CONTROL(base::Label, lblEinzelpreisZeichen)                                                  \
   CONTROL(base::Label, lblEinzelBrutto)                                                        \

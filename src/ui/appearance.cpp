@@ -7,6 +7,8 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
+#include <QStyleHints>
+#include <QTextDocument>
 #include <QTranslator>
 #include <algorithm>
 
@@ -30,8 +32,22 @@ void speakGerman(QApplication& application) {
   }
 }
 
+QString withoutFoundry(const QString& family) { return family.section(QLatin1String(" ["), 0, 0); }
+
+// Some desktops leave this colour black in a dark palette.
+void showPlaceholders() {
+  const QPalette present = QApplication::palette();
+  QColor wanted = present.color(QPalette::Text);
+  wanted.setAlphaF(0.55F);
+  if (present.color(QPalette::PlaceholderText) == wanted) return;
+  QPalette only;
+  only.setColor(QPalette::PlaceholderText, wanted);
+  QApplication::setPalette(only);
+}
+
 bool contains(const std::vector<std::string>& families, const std::string& family) {
-  return std::find(families.begin(), families.end(), family) != families.end();
+  const auto isSame = [&](const std::string& one) { return isSameTypeface(toQString(one), toQString(family)); };
+  return std::any_of(families.begin(), families.end(), isSame);
 }
 
 }  // namespace
@@ -40,12 +56,24 @@ void setUpAppearance(QApplication& application) {
   initResources();
   QApplication::setStyle(new ProgramStyle);
   speakGerman(application);
+  QGuiApplication::styleHints()->setShowShortcutsInContextMenus(true);
   followPalette();
 }
 
-void setProgramIcon() { QApplication::setWindowIcon(QIcon(QStringLiteral(":/tessik.svg"))); }
+void setProgramIcon() {
+  if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(QIcon(QStringLiteral(":/tessik.svg")));
+}
+
+QString shownAsPlainText(const QString& toolTip) {
+  return Qt::mightBeRichText(toolTip) ? Qt::convertFromPlainText(toolTip) : toolTip;
+}
+
+bool isSameTypeface(const QString& one, const QString& other) {
+  return withoutFoundry(one).compare(withoutFoundry(other), Qt::CaseInsensitive) == 0;
+}
 
 void followPalette() {
+  showPlaceholders();
   const bool dark = QApplication::palette().color(QPalette::Window).lightness() < kDarkLightness;
   const QString theme = dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze");
   QIcon::setFallbackThemeName(theme);

@@ -2,6 +2,7 @@
 // substitute for a typeface that is not installed.
 #pragma once
 
+#include <QString>
 #include <string>
 #include <vector>
 
@@ -11,8 +12,15 @@ namespace ui {
 
 void setUpAppearance(QApplication& application);
 
-/// The icon of all windows. Drawing it loads every image plugin, so it comes after the first window is there.
+/// The icon of all windows. Drawing it loads every image plugin, so it comes when the first window is there or just
+/// before a message box that precedes it; further calls do nothing.
 void setProgramIcon();
+
+/// A tool tip that shows `toolTip` as it stands, whatever in it looks like tags.
+QString shownAsPlainText(const QString& toolTip);
+
+/// Whether two names mean one typeface: "Arial [Monotype]" is "Arial" from a certain foundry.
+bool isSameTypeface(const QString& one, const QString& other);
 
 /// Takes the icons that fit a light or dark palette.
 void followPalette();

@@ -77,9 +77,11 @@ TEST(Calc, PricesTheSelectionButNotALoneLineEnd) {
   Desk desk;
   desk.offerHeights({{"10", "1"}});
   desk.write("abcdef\nghi");
+  EXPECT_FALSE(desk.window.lblMarkierung.visible);
   desk.document.select({.start = 1, .length = 3});
   desk.program.wiring.fire(desk.document, base::Event::selected);
   EXPECT_EQ(desk.window.lblTextlenBox.text, "3");
+  EXPECT_TRUE(desk.window.lblMarkierung.visible && desk.window.lblMarkierungZeichen.visible);
   desk.document.select({.start = 6, .length = 2});
   desk.window.txtStück.text = "9";
   desk.program.wiring.fire(desk.document, base::Event::selected);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "ui/appearance.h"
+#include "ui/forms/edit_commands.h"
 #include "ui/user_settings.h"
 #include "ui_main_window.h"
 
@@ -44,11 +45,28 @@ void makePaperWhite(QWidget& paper) {
   paper.setPalette(palette);
 }
 
+// A word on a colour of its own, which can be read in either palette and keeps its place while it is hidden.
+void makeSign(QLabel& word) {
+  word.setStyleSheet(QStringLiteral("background: #ffb300; color: black; border-radius: 3px; padding: 0 4px;"));
+  QSizePolicy policy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+  policy.setRetainSizeWhenHidden(true);
+  word.setSizePolicy(policy);
+}
+
+void furnishPanel(const Ui::MainWindowForm& drawn) {
+  for (QLabel* const word : {drawn.lblMarkierung, drawn.lblMarkierungZeichen}) makeSign(*word);
+  for (QLabel* const aside : std::initializer_list<QLabel*>{drawn.fixProzent, drawn.fixBetrag, drawn.fixFolge,
+                                                            drawn.lblcboChange1, drawn.lblcboChange2}) {
+    aside->setForegroundRole(QPalette::PlaceholderText);
+  }
+}
+
 }  // namespace
 
 MainForm::MainForm() : drawn_(drawnOn(*this)) {
   // Labels of our own in the status bar instead of showMessage(), which every status tip would overwrite.
-  drawn_->fixStatus->addWidget(drawn_->lblZeile);
+  constexpr int kTakesTheRest = 1;
+  drawn_->fixStatus->addWidget(drawn_->lblZeile, kTakesTheRest);
   drawn_->fixStatus->addPermanentWidget(drawn_->lblHinweis);
   drawn_->fixStatus->addPermanentWidget(drawn_->lblZusatz);
   drawn_->fixTeiler->setStretchFactor(0, 1);
@@ -56,6 +74,11 @@ MainForm::MainForm() : drawn_(drawnOn(*this)) {
   moveFormatIntoToolBar(*drawn_);
   fitToScreen();
   makePaperWhite(*drawn_->rtfText);
+  furnishPanel(*drawn_);
+  drawn_->rtfText->leaveKeysToCommands();
+  new EditCommands(*this, *drawn_);  // belongs to this window
+  connect(drawn_->cboFontSelect, &AutoCompleteComboBox::chosen, drawn_->rtfText, qOverload<>(&QWidget::setFocus),
+          Qt::QueuedConnection);
   // The height's label is written by the calculation and cannot carry an access key of its own.
   connect(new QShortcut(Qt::ALT | Qt::Key_T, this), &QShortcut::activated, drawn_->cboBuchstabenhöhe,
           [this] { drawn_->cboBuchstabenhöhe->setFocus(Qt::ShortcutFocusReason); });

@@ -49,7 +49,26 @@ RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), index_(*documen
   connect(this, &QTextEdit::selectionChanged, this, &RichTextEdit::noteCaret);
 }
 
+bool RichTextEdit::isLeftToCommands(const QKeyEvent& key) const {
+  if (!leavesKeys_) return false;
+  if (key.matches(QKeySequence::Delete)) return textCursor().hasSelection();
+  return key.matches(QKeySequence::Cut) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
+         key.matches(QKeySequence::SelectAll);
+}
+
+bool RichTextEdit::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && isLeftToCommands(static_cast<const QKeyEvent&>(*event))) {
+    event->ignore();
+    return true;
+  }
+  return QTextEdit::event(event);
+}
+
 void RichTextEdit::keyPressEvent(QKeyEvent* event) {
+  if (isLeftToCommands(*event)) {
+    event->ignore();
+    return;
+  }
   const bool leavesForwards = event->key() == Qt::Key_Tab && event->modifiers() == Qt::ControlModifier;
   const bool leavesBackwards = event->key() == Qt::Key_Backtab;
   // QTextEdit's own version refuses to let go while Tab writes tabs.

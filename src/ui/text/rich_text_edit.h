@@ -25,6 +25,10 @@ class RichTextEdit : public QTextEdit {
   /// Puts `text` in the place of the selection; one undo takes it back, with all that composing made of it.
   void insertAsOneStep(const QString& text);
 
+  /// From now on somebody else's commands answer the keys of cutting, copying, pasting, selecting all and deleting a
+  /// selection: where these are disabled, the keys do nothing.
+  void leaveKeysToCommands() { leavesKeys_ = true; }
+
  signals:
   /// The text or its formats were changed, by whomever; the text is composed by now.
   void edited();
@@ -34,6 +38,7 @@ class RichTextEdit : public QTextEdit {
   void released();
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -48,6 +53,7 @@ class RichTextEdit : public QTextEdit {
     bool operator==(const Ends&) const = default;
   };
 
+  [[nodiscard]] bool isLeftToCommands(const QKeyEvent& key) const;
   void followChange(int from, int removed, int added);
   void settleChange();
   void compose();
@@ -58,6 +64,7 @@ class RichTextEdit : public QTextEdit {
   TextIndex index_;
   std::vector<Decomposed> decomposed_;  // found in the change under way
   bool composing_ = false;
+  bool leavesKeys_ = false;
   Ends lastEnds_;
 };
 

@@ -9,8 +9,8 @@
 namespace ui {
 namespace {
 
-constexpr int kLeastHeight = 200;
-constexpr double kShareOfScreen = 0.6;
+constexpr int kLeastLines = 6;
+constexpr double kShareOfScreen = 0.8;
 
 }  // namespace
 
@@ -19,7 +19,8 @@ ScrollColumn::ScrollColumn(QWidget* parent) : QScrollArea(parent) { setWidgetRes
 QSize ScrollColumn::minimumSizeHint() const {
   if (widget() == nullptr) return QScrollArea::minimumSizeHint();
   const int whole = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
-  return {std::min(whole, static_cast<int>(screen()->availableSize().width() * kShareOfScreen)), kLeastHeight};
+  return {std::min(whole, static_cast<int>(screen()->availableSize().width() * kShareOfScreen)),
+          kLeastLines * fontMetrics().lineSpacing()};
 }
 
 bool ScrollColumn::eventFilter(QObject* watched, QEvent* event) {

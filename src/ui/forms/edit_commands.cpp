@@ -1,0 +1,105 @@
+// The editing commands of the main window.
+#include "ui/forms/edit_commands.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "ui_main_window.h"
+
+namespace ui {
+namespace {
+
+QAction* separator(QObject& owner) {
+  auto* const line = new QAction(&owner);
+  line->setSeparator(true);
+  return line;
+}
+
+QLineEdit* lineOf(QWidget* widget) {
+  if (const auto* box = qobject_cast<QComboBox*>(widget)) return box->lineEdit();
+  return qobject_cast<QLineEdit*>(widget);
+}
+
+// Undo keeps the keys of the text edit, which answers them before any action is asked.
+QList<QAction*> undoCommands(QTextEdit& document) {
+  auto* const undo =
+      new QAction(QIcon::fromTheme(QStringLiteral("edit-undo")), QStringLiteral("&Rückgängig"), &document);
+  auto* const redo =
+      new QAction(QIcon::fromTheme(QStringLiteral("edit-redo")), QStringLiteral("&Wiederholen"), &document);
+  undo->setShortcut(QKeySequence::Undo);
+  redo->setShortcut(QKeySequence::Redo);
+  QObject::connect(undo, &QAction::triggered, &document, &QTextEdit::undo);
+  QObject::connect(redo, &QAction::triggered, &document, &QTextEdit::redo);
+  QObject::connect(&document, &QTextEdit::undoAvailable, undo, &QAction::setEnabled);
+  QObject::connect(&document, &QTextEdit::redoAvailable, redo, &QAction::setEnabled);
+  for (QAction* const command : {undo, redo}) {
+    command->setShortcutContext(Qt::WidgetShortcut);
+    command->setEnabled(false);
+  }
+  return {undo, redo};
+}
+
+}  // namespace
+
+EditCommands::EditCommands(QMainWindow& window, const Ui::MainWindowForm& drawn)
+    : QObject(&window),
+      commands_({{drawn.fixCut, drawn.mnuCut, [](QLineEdit& line) { line.cut(); }},
+                 {drawn.fixCopy, drawn.mnuCopy, [](QLineEdit& line) { line.copy(); }},
+                 {drawn.fixPaste, drawn.mnuPaste, [](QLineEdit& line) { line.paste(); }},
+                 {drawn.fixDelete, drawn.mnuDelete, [](QLineEdit& line) { line.del(); }},
+                 {drawn.fixMarkAll, drawn.mnuMarkAll, [](QLineEdit& line) { line.selectAll(); }}}) {
+  drawn.fixCut->setShortcuts(QKeySequence::Cut);
+  drawn.fixCopy->setShortcuts(QKeySequence::Copy);
+  drawn.fixPaste->setShortcuts(QKeySequence::Paste);
+  drawn.fixMarkAll->setShortcuts(QKeySequence::SelectAll);
+  // Pressed in a list, the key shall not delete what is marked in the document.
+  drawn.fixDelete->setShortcuts(QKeySequence::Delete);
+  drawn.fixDelete->setShortcutContext(Qt::WidgetShortcut);
+  for (const Command& command : commands_) {
+    connect(command.shown, &QAction::triggered, this, [this, command] { run(command); });
+    connect(command.ofDocument, &QAction::changed, this, &EditCommands::enable);
+  }
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { noteFocus(now); });
+  offerInContextMenus(window, *drawn.rtfText);
+}
+
+void EditCommands::offerInContextMenus(QMainWindow& window, QTextEdit& document) {
+  document.addActions(undoCommands(document));
+  document.addAction(separator(document));
+  QList<QWidget*> texts{&document};
+  for (QLineEdit* const line : window.findChildren<QLineEdit*>()) texts.append(line);
+  for (QWidget* const text : texts) {
+    for (const Command& command : commands_) {
+      if (command.shown == commands_.back().shown) text->addAction(separator(*text));
+      text->addAction(command.shown);
+    }
+    text->setContextMenuPolicy(Qt::ActionsContextMenu);
+  }
+}
+
+void EditCommands::run(const Command& command) const {
+  if (line_) {
+    command.ofLine(*line_);
+  } else {
+    command.ofDocument->trigger();
+  }
+}
+
+// A menu and another window borrow the focus.
+void EditCommands::noteFocus(QWidget* focused) {
+  const bool isBorrowed =
+      focused == nullptr || qobject_cast<QMenuBar*>(focused) != nullptr || qobject_cast<QMenu*>(focused) != nullptr;
+  if (isBorrowed) return;
+  line_ = lineOf(focused);
+  enable();
+}
+
+void EditCommands::enable() const {
+  for (const Command& command : commands_) command.shown->setEnabled(line_ || command.ofDocument->isEnabled());
+}
+
+}  // namespace ui
