@@ -163,7 +163,8 @@ ListBinding::ListBinding(base::ListBox& model, QListView& widget, const Context&
 void ListBinding::take() {
   userChange([this] {
     const QItemSelectionModel& selection = *widget_.selectionModel();
-    model_.current = selection.currentIndex().row();
+    const bool showsCurrent = marksSeveral(widget_) || selection.hasSelection();
+    model_.current = showsCurrent ? selection.currentIndex().row() : -1;
     if (marksSeveral(widget_)) model_.marked = markedRows(selection);
     current_.follow(model_.current);
     marked_.follow(model_.marked);
