@@ -15,7 +15,7 @@
 
 #include "calc/picker.h"
 #include "ui/binding/binder.h"
-#include "ui/forms/dialogs.h"
+#include "ui/forms/form_table.h"
 #include "ui/forms/main_form.h"
 #include "ui/text/rich_text_edit.h"
 #include "ui/widgets/fitted_label.h"
@@ -127,10 +127,10 @@ TEST(Picker, ChoosesOnlyWhatIsHighlighted) {
   ui::Sync sync(gate);
   int entered = -2;
   wiring.on(picker.lstAuswahl, base::Event::keyEnter, [&] { entered = picker.lstAuswahl.current; });
-  const std::unique_ptr<QDialog> dialog(ui::makePicker(nullptr));
+  const std::unique_ptr<QWidget> dialog(ui::formOf("frmAuswahlAR").build(nullptr));
   picker.lstAuswahl.items.assign({"0.00 EUR -> FEST", "10 %"});
   picker.lstAuswahl.current = 1;
-  sync.open(ui::bind(picker, *dialog, wiring, gate, sync));
+  sync.open(ui::bind(picker, *dialog, ui::Context{wiring, gate}, sync));
   dialog->show();
   auto* const list = dialog->findChild<QListView*>();
   QTest::keyClick(list, Qt::Key_Return);

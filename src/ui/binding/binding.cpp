@@ -3,10 +3,10 @@
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
-#include <QTextDocument>
 #include <QVariant>
 #include <utility>
 
+#include "ui/appearance.h"
 #include "ui/utf8.h"
 
 namespace ui {
@@ -44,10 +44,7 @@ bool isUsersChoice(Qt::FocusReason reason) {
 
 }  // namespace
 
-QString plainToolTip(const std::string& text) {
-  const QString shown = toQString(text);
-  return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal) : shown;
-}
+QString plainToolTip(const std::string& text) { return shownAsPlainText(toQString(text)); }
 
 DrawnText::DrawnText(QObject& shown, const char* property, AsShown asShown)
     : shown_(shown), property_(property), asShown_(asShown), drawn_(shown.property(property).toString()) {}
