@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace base {
@@ -56,5 +57,40 @@ struct Document {
   /// Compares the tables of formats as they stand; sameContent() compares what a reader of the text sees.
   bool operator==(const Document&) const = default;
 };
+
+/// What the calculation needs of a text: its code points without line ends, and how many of those are blanks (U+0020).
+struct TextCount {
+  std::int64_t characters = 0;
+  std::int64_t blanks = 0;
+  std::int64_t lineEnds = 0;
+
+  bool operator==(const TextCount&) const = default;
+};
+
+constexpr TextCount operator+(const TextCount& a, const TextCount& b) {
+  return {a.characters + b.characters, a.blanks + b.blanks, a.lineEnds + b.lineEnds};
+}
+constexpr TextCount operator-(const TextCount& a, const TextCount& b) {
+  return {a.characters - b.characters, a.blanks - b.blanks, a.lineEnds - b.lineEnds};
+}
+/// As a stretch of plain text, in which a line end (CR LF) is two code points.
+constexpr std::int64_t codePoints(const TextCount& count) { return count.characters + 2 * count.lineEnds; }
+
+/// The break inside a paragraph, U+2028.
+inline constexpr std::string_view kLineSeparator = "\xE2\x80\xA8";
+
+/// Counts a piece of well-formed UTF-8 in which a line feed or U+2028 is a line end.
+[[nodiscard]] TextCount countText(std::string_view text);
+[[nodiscard]] TextCount countText(const Document& document);
+
+/// With CR LF at the end of every paragraph but the last, and for each U+2028.
+[[nodiscard]] std::string plainText(const Document& document);
+
+/// `text` in one format; line ends of any kind part its paragraphs.
+[[nodiscard]] Document plainDocument(std::string_view text, const CharFormat& format);
+
+/// Whether who reads both sees no difference: the numbering of formats, how a stretch in one format is cut into runs,
+/// and the format of a line end behind text do not count.
+[[nodiscard]] bool sameContent(const Document& a, const Document& b);
 
 }  // namespace base

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
+#include <numeric>
 #include <utility>
 
 #include "base/text.h"
@@ -10,184 +12,266 @@
 namespace base {
 namespace {
 
-// No character below this one ever joins the character before it.
-constexpr char32_t kFirstCombining = 0x0300;
+constexpr std::uint32_t kNoNumber = std::numeric_limits<std::uint32_t>::max();
 
-CharFormat merged(CharFormat format, const FormatChange& change) {
-  format.family = change.family.value_or(format.family);
-  format.points = change.points.value_or(format.points);
-  format.bold = change.bold.value_or(format.bold);
-  format.italic = change.italic.value_or(format.italic);
-  format.underline = change.underline.value_or(format.underline);
-  return format;
+std::size_t lineFeeds(std::string_view text) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+Stretches<Alignment> aligned(std::size_t paragraphs, Alignment alignment) {
+  Stretches<Alignment> result;
+  result.append(paragraphs, alignment);
+  return result;
+}
+
+// Numbers formats anew in the order of their first use.
+class Renumbering {
+ public:
+  Renumbering(const std::vector<CharFormat>& formats, Document& document)
+      : formats_(formats), document_(document), numbers_(formats.size(), kNoNumber) {}
+
+  std::uint32_t operator()(std::uint32_t old) {
+    std::uint32_t& number = numbers_[old];
+    if (number == kNoNumber) {
+      number = static_cast<std::uint32_t>(document_.formats.size());
+      document_.formats.push_back(formats_[old]);
+    }
+    return number;
+  }
+
+ private:
+  const std::vector<CharFormat>& formats_;
+  Document& document_;
+  std::vector<std::uint32_t> numbers_;
+};
+
+void appendRun(Paragraph& paragraph, std::string_view text, std::uint32_t format) {
+  if (text.empty()) return;
+  paragraph.text += text;
+  paragraph.runs.push_back({static_cast<std::uint32_t>(text.size()), format});
+}
+
+// Appends a stretch in one format, in which line feeds end paragraphs.
+void appendStretch(Document& document, std::string_view text, std::uint32_t format) {
+  for (;;) {
+    const std::size_t end = text.find('\n');
+    appendRun(document.paragraphs.back(), text.substr(0, end), format);
+    if (end == std::string_view::npos) return;
+    document.paragraphs.back().endFormat = format;
+    document.paragraphs.emplace_back();
+    text.remove_prefix(end + 1);
+  }
 }
 
 }  // namespace
 
-MemoryRichText::MemoryRichText(Composer composer) : composer_(std::move(composer)) {}
-
-std::string MemoryRichText::plainText() const { return utf8({0, text_.size()}); }
-
-void MemoryRichText::setPlainText(std::string_view text) {
-  const std::size_t format = formatIndex();
-  text_ = entering(text);
-  if (composer_) text_ = composed({0, text_.size()});
-  emptyFormat_ = format;
-  typedNext_ = format;
-  selection_ = {};
-  changed();
+MemoryRichText::MemoryRichText(Composer composer) : composer_(std::move(composer)) {
+  flat_.append("\n", 0);
+  flat_.alignments.append(1, Alignment::left);
 }
+
+std::string MemoryRichText::plainText() const { return withWindowsLineEnds(between(0, lastLineEnd())); }
+
+void MemoryRichText::setPlainText(std::string_view text) { setWhole(entering(text, formatNumber(), Alignment::left)); }
+
+Document MemoryRichText::document() const { return documentOf(0, lastLineEnd()); }
+
+Document MemoryRichText::selectedDocument() const { return documentOf(start_.offset, end_.offset); }
+
+void MemoryRichText::setDocument(const Document& document) {
+  std::vector<std::uint32_t> numbers(document.formats.size());
+  std::iota(numbers.begin(), numbers.end(), 0U);
+  setWhole(entering(document, numbers));
+  formats_ = document.formats;
+}
+
+TextSelection MemoryRichText::selection() const { return {start_.position, end_.position - start_.position}; }
 
 void MemoryRichText::select(TextSelection selection) {
-  const TextSelection inside = clipped(selection, static_cast<std::int64_t>(text_.size()));
-  const std::size_t start = behindLineEnd(inside.start);
-  const std::size_t end = behindLineEnd(inside.start + inside.length);
-  selection_ = {static_cast<std::int64_t>(start), static_cast<std::int64_t>(end - start)};
+  const TextSelection inside = clipped(selection, codePoints(count_));
+  start_ = placeAt(inside.start, {});
+  end_ = placeAt(std::max(inside.start + inside.length, start_.position), start_);
   typedNext_.reset();
 }
 
-std::string MemoryRichText::selectedText() const { return utf8(selected()); }
+std::string MemoryRichText::selectedText() const { return withWindowsLineEnds(selectedPart()); }
 
 void MemoryRichText::replaceSelection(std::string_view text) {
-  const Piece old = selected();
-  emptyFormat_ = formatIndex();
-  const Characters entered = entering(text);
-  replace(old, entered);
-  std::size_t caret = old.begin + entered.size();
-  if (composer_) {
-    const Piece piece = composing({old.begin, caret});
-    const Characters whole = composed(piece);
-    caret = piece.begin + composed({piece.begin, caret}).size();
-    caret = std::min(caret, piece.begin + whole.size());
-    replace(piece, whole);
-  }
-  selection_ = {static_cast<std::int64_t>(caret), 0};
-  typedNext_.reset();
-  changed();
+  const std::uint32_t format = formatNumber();
+  insert(entering(text, format, alignmentAt(startsParagraph(start_.offset) ? end_.offset : start_.offset)));
+  if (startsParagraph(end_.offset) && endsParagraph(end_.offset)) setFormatAt(end_.offset, format);
 }
 
-TextCount MemoryRichText::countSelection() const { return count(selected()); }
+void MemoryRichText::replaceSelection(const Document& document) {
+  std::vector<std::uint32_t> numbers;
+  for (const CharFormat& format : document.formats) numbers.push_back(numberOf(format));
+  FlatText piece = entering(document, numbers);
+  const std::size_t last = lineFeeds(piece.text) - 1;
+  const std::uint32_t endFormat = piece.formats.at(piece.text.size() - 1);
+  const bool joinsHead = !startsParagraph(start_.offset);
+  const bool joinsTail = !endsParagraph(end_.offset);
+  const bool lastJoins = joinsTail || (last == 0 && joinsHead);
+  if (joinsTail) piece.alignments.replace(last, last + 1, aligned(1, alignmentAt(end_.offset)));
+  if (joinsHead) piece.alignments.replace(0, 1, aligned(1, alignment()));
+  insert(std::move(piece));
+  if (!lastJoins) setFormatAt(end_.offset, endFormat);
+}
 
-CharFormat MemoryRichText::format() const { return formats_[formatIndex()]; }
+TextCount MemoryRichText::countSelection() const { return countText(selectedPart()); }
+
+CharFormat MemoryRichText::format() const { return formats_[formatNumber()]; }
 
 void MemoryRichText::changeFormat(const FormatChange& change) {
-  if (selection_.length == 0) {
-    const std::size_t index = indexOf(merged(format(), change));
-    typedNext_ = index;
-    if (text_.empty()) emptyFormat_ = index;
+  const std::size_t begin = start_.offset;
+  if (begin == end_.offset) {
+    typedNext_ = numberOf(changed(format(), change));
+    if (startsParagraph(begin) && endsParagraph(begin)) setFormatAt(begin, *typedNext_);
     return;
   }
-  const Piece piece = selected();
-  for (std::size_t i = piece.begin; i < piece.end; ++i) {
-    text_[i].format = indexOf(merged(formats_[text_[i].format], change));
+  const std::size_t end = end_.offset == lastLineEnd() ? flat_.text.size() : end_.offset;
+  Stretches<std::uint32_t> formats;
+  std::vector<std::uint32_t> numbers(formats_.size(), kNoNumber);
+  for (const auto& [length, old] : flat_.formats.slice(begin, end)) {
+    if (numbers[old] == kNoNumber) numbers[old] = numberOf(changed(formats_[old], change));
+    formats.append(length, numbers[old]);
   }
+  flat_.formats.replace(begin, end, formats);
+  ++revision_;
+}
+
+Alignment MemoryRichText::alignment() const { return alignmentAt(start_.offset); }
+
+void MemoryRichText::setAlignment(Alignment alignment) {
+  const std::size_t first = flat_.paragraphOf(start_.offset);
+  const std::size_t last = flat_.paragraphOf(std::max(start_.offset, end_.offset - (selectedPart().empty() ? 0 : 1)));
+  flat_.alignments.replace(first, last + 1, aligned(last + 1 - first, alignment));
   ++revision_;
 }
 
 Caret MemoryRichText::caret() const {
-  const std::size_t position = selected().end;
-  std::size_t lineStart = position;
-  while (lineStart > 0 && text_[lineStart - 1].codePoint != U'\n') --lineStart;
-  return {count({0, position}).lineEnds + 1, static_cast<std::int64_t>(position - lineStart) + 1};
+  const std::string_view before = between(0, end_.offset);
+  const TextCount count = countText(before);
+  const std::size_t feed = before.rfind('\n') + 1;  // 0 when there is none
+  const std::size_t separator = before.rfind(kLineSeparator);
+  const bool afterSeparator = separator != std::string_view::npos && separator >= feed;
+  const std::size_t lineStart = afterSeparator ? separator + kLineSeparator.size() : feed;
+  return {count.lineEnds + 1, countText(before.substr(lineStart)).characters + 1};
 }
 
-// Characters in the format at the caret.
-MemoryRichText::Characters MemoryRichText::entering(std::string_view text) const {
-  const std::string lines = withWindowsLineEnds(text);
-  const std::size_t format = formatIndex();
-  Characters result;
-  result.reserve(lines.size());
-  for (std::string_view rest = lines; !rest.empty();) {
-    const char32_t c = takeCodePoint(rest);
-    if (isTextCharacter(c)) result.push_back({c, format});
+// With the line end behind the last paragraph, as all that enters has it.
+FlatText MemoryRichText::entering(std::string_view text, std::uint32_t format, Alignment alignment) const {
+  FlatText result;
+  result.text = composed(flatLines(text, Breaks::endParagraphs), composer_);
+  result.text += '\n';
+  result.formats.append(result.text.size(), format);
+  result.alignments.append(lineFeeds(result.text), alignment);
+  return result;
+}
+
+// `numbers` are ours for the document's formats.
+FlatText MemoryRichText::entering(const Document& document, const std::vector<std::uint32_t>& numbers) const {
+  FlatText result;
+  for (const Paragraph& paragraph : document.paragraphs) {
+    const std::size_t begin = result.text.size();
+    std::string_view rest = paragraph.text;
+    for (const Run& run : paragraph.runs) {
+      const std::size_t seam = result.text.size();
+      result.append(composed(flatLines(rest.substr(0, run.size), Breaks::stayBreaks), composer_), numbers[run.format]);
+      result.composeAt(seam, seam, composer_);
+      rest.remove_prefix(run.size);
+    }
+    result.append("\n", numbers[paragraph.endFormat]);
+    result.alignments.append(lineFeeds(std::string_view(result.text).substr(begin)), paragraph.alignment);
   }
   return result;
 }
 
-// What does not change keeps its format, what does has that of the first character it replaces.
-MemoryRichText::Characters MemoryRichText::composed(Piece piece) const {
-  const auto at = [this](std::size_t index) { return text_.begin() + static_cast<std::ptrdiff_t>(index); };
-  Characters result(at(piece.begin), at(piece.end));
-  Characters target;
-  const std::string utf8Text = composer_(utf8(piece));
-  for (std::string_view rest = utf8Text; !rest.empty();) target.push_back({takeCodePoint(rest), 0});
-  const auto same = [](const Character& a, const Character& b) { return a.codePoint == b.codePoint; };
-  const auto [oldBegin, newBegin] = std::mismatch(result.begin(), result.end(), target.begin(), target.end(), same);
-  if (oldBegin == result.end()) return result;
-  const auto [oldEnd, newEnd] = std::mismatch(result.rbegin(), std::make_reverse_iterator(oldBegin), target.rbegin(),
-                                              std::make_reverse_iterator(newBegin), same);
-  for (auto changed = newBegin; changed != newEnd.base(); ++changed) changed->format = oldBegin->format;
-  const auto gap = result.erase(oldBegin, oldEnd.base());
-  result.insert(gap, newBegin, newEnd.base());
-  return result;
-}
-
-bool MemoryRichText::isLineEnd(std::size_t index) const {
-  return text_[index].codePoint == U'\r' || text_[index].codePoint == U'\n';
-}
-
-MemoryRichText::Piece MemoryRichText::selected() const {
-  const auto start = static_cast<std::size_t>(selection_.start);
-  return {start, start + static_cast<std::size_t>(selection_.length)};
-}
-
-// The characters of `changed` with the neighbours that may join them.
-MemoryRichText::Piece MemoryRichText::composing(Piece changed) const {
-  const auto joins = [this](std::size_t i) { return i < text_.size() && text_[i].codePoint >= kFirstCombining; };
-  while (changed.begin > 0 && joins(changed.begin)) --changed.begin;
-  while (joins(changed.end)) ++changed.end;
-  return changed;
-}
-
-std::size_t MemoryRichText::behindLineEnd(std::int64_t position) const {
-  const auto index = static_cast<std::size_t>(position);
-  const bool between = index > 0 && index < text_.size() && text_[index].codePoint == U'\n';
-  return between ? index + 1 : index;
-}
-
-std::size_t MemoryRichText::formatIndex() const {
-  if (typedNext_) return *typedNext_;
-  if (text_.empty()) return emptyFormat_;
-  const auto [start, end] = selected();
-  if (start < end) return text_[start].format;
-  const bool atLineStart = start == 0 || isLineEnd(start - 1);
-  const bool emptyLine = start == text_.size() || isLineEnd(start);
-  return start == 0 || (atLineStart && !emptyLine) ? text_[start].format : text_[start - 1].format;
-}
-
-std::size_t MemoryRichText::indexOf(const CharFormat& format) {
-  const auto found = std::find(formats_.begin(), formats_.end(), format);
-  const auto index = static_cast<std::size_t>(found - formats_.begin());
-  if (found == formats_.end()) formats_.push_back(format);
-  return index;
-}
-
-std::string MemoryRichText::utf8(Piece piece) const {
-  std::string result;
-  result.reserve(piece.end - piece.begin);
-  for (std::size_t i = piece.begin; i < piece.end; ++i) appendCodePoint(result, text_[i].codePoint);
-  return result;
-}
-
-TextCount MemoryRichText::count(Piece piece) const {
-  TextCount result;
-  for (std::size_t i = piece.begin; i < piece.end; ++i) {
-    if (text_[i].codePoint == U'\n') ++result.lineEnds;
-    if (text_[i].codePoint == U' ') ++result.blanks;
-    if (!isLineEnd(i)) ++result.characters;
-  }
-  return result;
-}
-
-void MemoryRichText::replace(Piece piece, const Characters& characters) {
-  const auto at = [this](std::size_t index) { return text_.begin() + static_cast<std::ptrdiff_t>(index); };
-  const auto gap = text_.erase(at(piece.begin), at(piece.end));
-  text_.insert(gap, characters.begin(), characters.end());
-}
-
-void MemoryRichText::changed() {
-  count_ = count({0, text_.size()});
+void MemoryRichText::setWhole(FlatText whole) {
+  flat_ = std::move(whole);
+  start_ = end_ = {};
+  typedNext_.reset();
+  count_ = countText(between(0, lastLineEnd()));
   ++revision_;
+}
+
+// Everything is counted anew within the paragraphs touched. The line end of the last one is there already.
+void MemoryRichText::insert(FlatText piece) {
+  piece.text.pop_back();
+  piece.formats = piece.formats.slice(0, piece.text.size());
+  const std::size_t lineStart = paragraphStart(start_.offset);
+  const std::size_t behind = flat_.text.size() - flat_.text.find('\n', end_.offset);
+  const std::int64_t before = start_.position - codePoints(countText(between(lineStart, start_.offset)));
+  count_ = count_ - countText(between(lineStart, flat_.text.size() - behind));
+  const std::size_t paragraph = flat_.paragraphOf(start_.offset);
+  flat_.alignments.replace(paragraph, paragraph + lineFeeds(selectedPart()) + 1, piece.alignments);
+  flat_.replace(start_.offset, end_.offset, piece);
+  std::size_t caret = start_.offset + piece.text.size();
+  caret = flat_.composeAt(caret, caret, composer_);
+  caret = flat_.composeAt(start_.offset, caret, composer_);
+  count_ = count_ + countText(between(lineStart, flat_.text.size() - behind));
+  start_ = end_ = {caret, before + codePoints(countText(between(lineStart, caret)))};
+  typedNext_.reset();
+  ++revision_;
+}
+
+Document MemoryRichText::documentOf(std::size_t begin, std::size_t end) const {
+  Document result{.formats = {}, .paragraphs = {Paragraph{}}};
+  Renumbering number(formats_, result);
+  std::size_t offset = begin;
+  for (const auto& [length, format] : flat_.formats.slice(begin, end)) {
+    appendStretch(result, between(offset, offset + length), number(format));
+    offset += length;
+  }
+  result.paragraphs.back().endFormat = number(flat_.formats.at(flat_.text.find('\n', end)));
+  auto paragraph = result.paragraphs.begin();
+  const std::size_t first = flat_.paragraphOf(begin);
+  for (const auto& [length, alignment] : flat_.alignments.slice(first, first + result.paragraphs.size())) {
+    for (std::size_t i = 0; i < length; ++i, ++paragraph) paragraph->alignment = alignment;
+  }
+  return result;
+}
+
+std::string_view MemoryRichText::between(std::size_t begin, std::size_t end) const {
+  return std::string_view(flat_.text).substr(begin, end - begin);
+}
+
+MemoryRichText::Place MemoryRichText::placeAt(std::int64_t position, Place from) const {
+  const std::string_view text = flat_.text;
+  while (from.position < position) {
+    const std::string_view rest = text.substr(from.offset);
+    const bool isBreak = rest.starts_with(kLineSeparator);
+    from.offset += isBreak ? kLineSeparator.size() : firstCodePoints(rest, 1).size();
+    from.position += isBreak || rest.front() == '\n' ? 2 : 1;
+  }
+  return from;
+}
+
+Alignment MemoryRichText::alignmentAt(std::size_t offset) const {
+  return flat_.alignments.at(flat_.paragraphOf(offset));
+}
+
+std::size_t MemoryRichText::paragraphStart(std::size_t offset) const {
+  return between(0, offset).rfind('\n') + 1;  // 0 when there is none
+}
+
+std::uint32_t MemoryRichText::formatNumber() const {
+  if (typedNext_) return *typedNext_;
+  const std::size_t start = start_.offset;
+  const bool behind = start < end_.offset || startsParagraph(start);
+  return flat_.formats.at(behind ? start : start - 1);
+}
+
+std::uint32_t MemoryRichText::numberOf(const CharFormat& format) {
+  const auto found = std::find(formats_.begin(), formats_.end(), format);
+  const auto number = static_cast<std::uint32_t>(found - formats_.begin());
+  if (found == formats_.end()) formats_.push_back(format);
+  return number;
+}
+
+void MemoryRichText::setFormatAt(std::size_t offset, std::uint32_t format) {
+  Stretches<std::uint32_t> one;
+  one.append(1, format);
+  flat_.formats.replace(offset, offset + 1, one);
 }
 
 }  // namespace base

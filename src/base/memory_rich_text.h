@@ -1,71 +1,83 @@
-// The rich text that lives in memory alone: for the terminal form, for scratch texts and for tests.
+// The rich text that lives in memory alone: for the terminal form, for texts that are not shown and for tests.
 //
-// Every change costs time linear in the text, and nothing can be undone.
+// It is kept flat, so that a text of short lines needs no more room than one of long lines; a change may cost time
+// linear in the text, and nothing can be undone.
 #pragma once
 
 #include <cstddef>
-#include <functional>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "base/flat_text.h"
 #include "base/rich_text.h"
 
 namespace base {
 
 class MemoryRichText : public RichText {
  public:
-  /// Brings a text into normalization form C.
-  using Composer = std::function<std::string(std::string_view)>;
+  using Composer = base::Composer;
 
   /// Without a composer text stays as it arrives.
   explicit MemoryRichText(Composer composer = {});
 
+  /// For text that comes in from now on.
+  void composeWith(Composer composer) { composer_ = std::move(composer); }
+
   [[nodiscard]] std::string plainText() const override;
   void setPlainText(std::string_view text) override;
-  [[nodiscard]] TextSelection selection() const override { return selection_; }
+  [[nodiscard]] Document document() const override;
+  [[nodiscard]] Document selectedDocument() const override;
+  void setDocument(const Document& document) override;
+  [[nodiscard]] TextSelection selection() const override;
   void select(TextSelection selection) override;
   [[nodiscard]] std::string selectedText() const override;
   void replaceSelection(std::string_view text) override;
+  void replaceSelection(const Document& document) override;
   [[nodiscard]] TextCount countAll() const override { return count_; }
   [[nodiscard]] TextCount countSelection() const override;
   [[nodiscard]] CharFormat format() const override;
   void changeFormat(const FormatChange& change) override;
+  [[nodiscard]] Alignment alignment() const override;
+  void setAlignment(Alignment alignment) override;
   [[nodiscard]] Caret caret() const override;
   [[nodiscard]] std::uint64_t revision() const override { return revision_; }
 
  private:
-  struct Character {
-    char32_t codePoint;
-    std::size_t format;  // index into formats_
-  };
-  using Characters = std::vector<Character>;
-
-  struct Piece {
-    std::size_t begin;
-    std::size_t end;
+  /// Between two characters: an offset in the flat text, and the code points of plain text before it.
+  struct Place {
+    std::size_t offset = 0;
+    std::int64_t position = 0;
   };
 
-  [[nodiscard]] Characters entering(std::string_view text) const;
-  [[nodiscard]] Characters composed(Piece piece) const;
-  [[nodiscard]] bool isLineEnd(std::size_t index) const;
-  [[nodiscard]] Piece selected() const;
-  [[nodiscard]] Piece composing(Piece changed) const;
-  [[nodiscard]] std::size_t behindLineEnd(std::int64_t position) const;
-  [[nodiscard]] std::size_t formatIndex() const;
-  [[nodiscard]] std::size_t indexOf(const CharFormat& format);
-  [[nodiscard]] std::string utf8(Piece piece) const;
-  [[nodiscard]] TextCount count(Piece piece) const;
-  void replace(Piece piece, const Characters& characters);
-  void changed();
+  [[nodiscard]] FlatText entering(std::string_view text, std::uint32_t format, Alignment alignment) const;
+  [[nodiscard]] FlatText entering(const Document& document, const std::vector<std::uint32_t>& numbers) const;
+  void setWhole(FlatText whole);
+  void insert(FlatText piece);
+  [[nodiscard]] Document documentOf(std::size_t begin, std::size_t end) const;
+
+  [[nodiscard]] std::string_view between(std::size_t begin, std::size_t end) const;
+  [[nodiscard]] std::string_view selectedPart() const { return between(start_.offset, end_.offset); }
+  [[nodiscard]] Place placeAt(std::int64_t position, Place from) const;
+  [[nodiscard]] Alignment alignmentAt(std::size_t offset) const;
+  [[nodiscard]] std::size_t paragraphStart(std::size_t offset) const;
+  [[nodiscard]] bool startsParagraph(std::size_t offset) const { return paragraphStart(offset) == offset; }
+  [[nodiscard]] bool endsParagraph(std::size_t offset) const { return flat_.text[offset] == '\n'; }
+  [[nodiscard]] std::size_t lastLineEnd() const { return flat_.text.size() - 1; }
+
+  [[nodiscard]] std::uint32_t formatNumber() const;
+  [[nodiscard]] std::uint32_t numberOf(const CharFormat& format);
+  void setFormatAt(std::size_t offset, std::uint32_t format);
 
   Composer composer_;
-  Characters text_;
+  FlatText flat_;  // never empty, for its last paragraph has a line feed as well
   std::vector<CharFormat> formats_ = {CharFormat{}};
-  std::optional<std::size_t> typedNext_;  // until the caret moves
-  std::size_t emptyFormat_ = 0;           // of what is typed into an empty text
-  TextSelection selection_;
+  std::optional<std::uint32_t> typedNext_;  // until the caret moves
+  Place start_;
+  Place end_;
   TextCount count_;
   std::uint64_t revision_ = 0;
 };

@@ -1,4 +1,4 @@
-// The rich-text control as the logic sees it: plain text, selection, character format at the selection, revision.
+// The rich-text control as the logic sees it: text and document, selection, formats at the selection, revision.
 //
 // Plain text has CR LF line ends; a break inside a paragraph (U+2028) is a line end like any other. Positions and
 // lengths are code points of that plain text, so a line end counts two and an emoji one. A no-break space is a
@@ -36,15 +36,6 @@ constexpr TextSelection clipped(TextSelection selection, std::int64_t length) {
 /// controls use to mark frames.
 constexpr bool isTextCharacter(char32_t c) { return c != 0 && c != 0xFFFC && !(c >= 0xFDD0 && c <= 0xFDEF); }
 
-/// What the calculation needs of a text: its code points without line ends, and how many of those are blanks (U+0020).
-struct TextCount {
-  std::int64_t characters = 0;
-  std::int64_t blanks = 0;
-  std::int64_t lineEnds = 0;
-
-  bool operator==(const TextCount&) const = default;
-};
-
 /// What of a character format is to change; the rest stays as each character has it.
 struct FormatChange {
   std::optional<std::string> family = {};
@@ -52,7 +43,14 @@ struct FormatChange {
   std::optional<bool> bold = {};
   std::optional<bool> italic = {};
   std::optional<bool> underline = {};
+  std::optional<bool> strikeOut = {};
+  std::optional<Script> script = {};
+  std::optional<std::optional<Rgb>> colour = {};  // none within: automatic
 };
+
+/// All of `format`.
+FormatChange changeTo(const CharFormat& format);
+CharFormat changed(CharFormat format, const FormatChange& change);
 
 /// A type size as it is shown: "24", "10.5".
 std::string pointsText(double points);
@@ -71,32 +69,48 @@ class RichText {
   virtual ~RichText() = default;
 
   [[nodiscard]] virtual std::string plainText() const = 0;
-  /// Replaces the whole text; line ends of any kind become CR LF, the selection is at the start, the format stays.
+  /// Replaces the whole text; line ends of any kind become CR LF, the selection is at the start, the format of
+  /// characters stays.
   virtual void setPlainText(std::string_view text) = 0;
+
+  /// The whole text with its formats, and the same for the selection.
+  [[nodiscard]] virtual Document document() const = 0;
+  [[nodiscard]] virtual Document selectedDocument() const = 0;
+  /// Replaces the whole text with its formats; the caret is at the start, and nothing before can be undone.
+  virtual void setDocument(const Document& document) = 0;
 
   [[nodiscard]] virtual TextSelection selection() const = 0;
   /// Selects; what lies outside the text is cut off. A position between CR and LF moves behind the LF.
   virtual void select(TextSelection selection) = 0;
   [[nodiscard]] virtual std::string selectedText() const = 0;
-  /// Puts `text` in the place of the selection as if it had been typed; the caret is behind it.
+  /// Puts `text` in the place of the selection as if it had been typed; the caret is behind it. A line that is left
+  /// empty keeps the format that text typed before would have had;
+  /// paragraphs that become one keep the alignment of the first of which something is left.
   virtual void replaceSelection(std::string_view text) = 0;
+  /// The same with formats of its own. A paragraph of which nothing else is left takes the alignment it has in
+  /// `document`, one that joins what was there keeps its own.
+  virtual void replaceSelection(const Document& document) = 0;
 
   /// Counts without copying the text: the whole text is counted as it changes, not when it is asked.
   [[nodiscard]] virtual TextCount countAll() const = 0;
   [[nodiscard]] virtual TextCount countSelection() const = 0;
 
-  /// The format of the first selected character; with nothing selected that of what is typed next, which is that of
-  /// the character before the caret or, at the start of a line, behind it.
+  /// The format of the first selected character, which may be a line end; with nothing selected that of what is typed
+  /// next, which is that of the character before the caret or, at the start of a paragraph, behind it.
   [[nodiscard]] virtual CharFormat format() const = 0;
   /// Gives the selection, or what is typed next when nothing is selected, this format.
-  void setFormat(const CharFormat& format) {
-    changeFormat({format.family, format.points, format.bold, format.italic, format.underline});
-  }
-  /// The same for a part of the format: a selection of several typefaces made bold keeps them.
+  void setFormat(const CharFormat& format) { changeFormat(changeTo(format)); }
+  /// The same for a part of the format: a selection of several typefaces made bold keeps them. A selection up to the
+  /// end of the text takes the last line's end with it.
   virtual void changeFormat(const FormatChange& change) = 0;
 
+  /// Of the first paragraph of the selection.
+  [[nodiscard]] virtual Alignment alignment() const = 0;
+  /// For every paragraph of which something is selected, its line end included, or that of the caret.
+  virtual void setAlignment(Alignment alignment) = 0;
+
   [[nodiscard]] virtual Caret caret() const = 0;
-  /// Grows with every change of the text; a change of format alone may count as one.
+  /// Grows with every change of the text; a change of formats alone may count as one.
   [[nodiscard]] virtual std::uint64_t revision() const = 0;
 };
 

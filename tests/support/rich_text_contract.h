@@ -36,6 +36,20 @@ struct MakeRichText {
 // So that the tests' names are the same in every run.
 inline void PrintTo(const MakeRichText& maker, std::ostream* out) { *out << maker.name; }
 
+/// Empty lines, breaks, both kinds of line end formats, an emoji across runs, all alignments.
+inline base::Document sampleDocument() {
+  using base::Alignment;
+  const std::string emoji = "😀x";
+  return {.formats = {{},
+                      {.family = "Courier New", .points = 10.5, .bold = true, .colour = 0x123456},
+                      {.italic = true, .underline = true, .strikeOut = true, .script = base::Script::subscript}},
+          .paragraphs = {{"", {}, 1, Alignment::centre},
+                         {"ab\u00A0c", {{1, 0}, {3, 1}, {1, 2}}, 2, Alignment::left},
+                         {"", {}, 2, Alignment::right},
+                         {"d\u2028" + emoji, {{4, 1}, {4, 2}, {1, 0}}, 0, Alignment::justified},
+                         {"", {}, 1, Alignment::left}}};
+}
+
 class RichTextContract : public testing::TestWithParam<MakeRichText> {
  protected:
   std::shared_ptr<base::RichText> text = GetParam().make();
@@ -168,6 +182,127 @@ TEST_P(RichTextContract, theFormatIsThatOfTheSelectionOrOfWhatIsTypedNext) {
   EXPECT_EQ(text->format(), loud);
   text->select({6, 0});
   EXPECT_EQ(text->format(), plain);
+}
+
+TEST_P(RichTextContract, aFreshTextHasTheFormatOfAFreshDocument) {
+  EXPECT_EQ(text->format(), base::CharFormat{});
+  EXPECT_EQ(text->document(), base::Document{});
+}
+
+// An empty line keeps what was typed before it, and so does a text that was emptied.
+TEST_P(RichTextContract, emptyLinesKeepTheFormatOfWhatWasThere) {
+  const base::CharFormat loud{.family = "Courier New", .points = 48, .bold = true, .colour = 0xFF8000};
+  const base::CharFormat small{.family = "Arial", .points = 6};
+  struct Row {
+    std::string before;  // in `loud`
+    base::TextSelection place;
+    std::string typed;
+    base::TextSelection asked;
+  };
+  const std::vector<Row> rows = {
+      {"", {0, 0}, "\n", {2, 0}},        {"", {0, 0}, "\n", {0, 0}},        {"", {0, 0}, "\n", {0, 2}},
+      {"ABC", {3, 0}, "\n\n", {7, 0}},   {"ABC", {3, 0}, "\n\n", {5, 2}},   {"ABC", {3, 0}, "\n\n", {3, 2}},
+      {"ABC", {0, 0}, "\n", {0, 0}},     {"ABC", {0, 3}, "", {0, 0}},       {"A\nB", {3, 1}, "", {3, 0}},
+      {"A\n\nB", {3, 0}, "", {3, 0}},    {"A\nB", {0, 4}, "", {0, 0}},      {"A\nB", {1, 2}, "", {1, 0}},
+      {"A", {1, 0}, "x\n\ny\n", {3, 0}}, {"A", {1, 0}, "x\n\ny\n", {8, 0}}, {"A\nB", {0, 1}, "", {0, 0}},
+  };
+  for (const Row& row : rows) {
+    text->setDocument({});
+    text->setFormat(small);
+    text->setPlainText(row.before);
+    text->select({0, row.before.empty() ? 0 : 99});
+    text->setFormat(loud);
+    text->select(row.place);
+    text->replaceSelection(row.typed);
+    text->select(row.asked);
+    EXPECT_EQ(text->format(), loud) << row.before << " / " << row.typed << testing::PrintToString(row.asked);
+  }
+}
+
+TEST_P(RichTextContract, aFormatIsChosenForLineEndsAndEmptyLinesToo) {
+  const base::CharFormat loud{.bold = true, .strikeOut = true, .script = base::Script::superscript, .colour = 0xFF};
+  text->setPlainText("a\n\n\nb\n");
+  for (const base::TextSelection place : {base::TextSelection{3, 2}, {1, 2}, {10, 0}, {7, 3}}) {
+    text->select(place);
+    text->setFormat(loud);
+    EXPECT_EQ(text->format(), loud) << testing::PrintToString(place);
+    text->select(place);
+    EXPECT_EQ(text->format(), loud) << testing::PrintToString(place);
+    text->changeFormat({.colour = std::optional<base::Rgb>()});
+    EXPECT_EQ(text->format().colour, std::nullopt);
+  }
+  text->select({5, 0});
+  EXPECT_EQ(text->format(), base::CharFormat{});
+}
+
+TEST_P(RichTextContract, documentsComeBackAsTheyWentIn) {
+  const base::Document whole = sampleDocument();
+  text->setDocument(whole);
+  EXPECT_TRUE(sameContent(text->document(), whole)) << text->plainText();
+  EXPECT_EQ(text->plainText(), base::plainText(whole));
+  EXPECT_EQ(text->countAll(), base::countText(whole));
+  EXPECT_EQ(text->selection(), base::TextSelection{});
+  EXPECT_EQ(text->format(), whole.formats[1]);
+
+  // Each piece in its own place changes nothing.
+  const base::TextCount all = text->countAll();
+  for (std::int64_t start = 0; start <= base::codePoints(all); ++start) {
+    for (std::int64_t length = 0; start + length <= base::codePoints(all); length += 3) {
+      text->select({start, length});
+      const base::TextSelection place = text->selection();
+      const base::Document piece = text->selectedDocument();
+      ASSERT_EQ(base::plainText(piece), text->selectedText());
+      text->replaceSelection(piece);
+      ASSERT_EQ(text->selection(), (base::TextSelection{place.start + place.length, 0}));
+      ASSERT_TRUE(sameContent(text->document(), whole)) << testing::PrintToString(place);
+    }
+  }
+  text->setDocument({});
+  EXPECT_TRUE(sameContent(text->document(), {}));
+}
+
+TEST_P(RichTextContract, documentsEnterComposedAndCleaned) {
+  base::Document document = base::plainDocument("xa\u0308\u0308y\uFFFC", {});
+  document.formats.push_back({.bold = true});
+  document.paragraphs[0].runs = {{2, 0}, {2, 1}, {6, 0}};
+  text->setDocument(document);
+  ASSERT_EQ(text->plainText(), "xä\u0308y");
+  text->select({1, 1});
+  EXPECT_EQ(text->format(), base::CharFormat{});
+  EXPECT_EQ(text->countAll().characters, 4);
+}
+
+TEST_P(RichTextContract, paragraphsHaveAnAlignment) {
+  using base::Alignment;
+  const auto alignments = [this] {
+    std::vector<Alignment> result;
+    for (const base::Paragraph& paragraph : text->document().paragraphs) result.push_back(paragraph.alignment);
+    return result;
+  };
+  const auto align = [this](base::TextSelection place, Alignment alignment) {
+    text->select(place);
+    text->setAlignment(alignment);
+    EXPECT_EQ(text->alignment(), alignment);
+  };
+  text->setPlainText("a\nb\n\nd");
+  align({0, 0}, Alignment::right);
+  align({3, 3}, Alignment::centre);  // b and its line end, not the line behind
+  align({6, 3}, Alignment::justified);
+  EXPECT_EQ(alignments(),
+            (std::vector{Alignment::right, Alignment::centre, Alignment::justified, Alignment::justified}));
+  text->select({4, 2});
+  text->replaceSelection("x\ny");
+  EXPECT_EQ(alignments(), (std::vector{Alignment::right, Alignment::centre, Alignment::centre, Alignment::justified}));
+  text->select({1, 2});
+  text->replaceSelection("");
+  EXPECT_EQ(alignments(), (std::vector{Alignment::right, Alignment::centre, Alignment::justified}));
+
+  base::Document piece = base::plainDocument("1\n2\n3", {});
+  for (base::Paragraph& paragraph : piece.paragraphs) paragraph.alignment = Alignment::left;
+  text->select({1, 0});
+  text->replaceSelection(piece);
+  EXPECT_EQ(alignments(), (std::vector{Alignment::right, Alignment::left, Alignment::right, Alignment::centre,
+                                       Alignment::justified}));
 }
 
 TEST_P(RichTextContract, aChangeOfOnePartKeepsTheOthersOfEveryCharacter) {

@@ -1,46 +1,31 @@
 // The rich-text control of the logic on the text edit of the screen.
 #include "ui/text/qt_rich_text.h"
 
-#include <QFont>
-#include <QTextCharFormat>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <algorithm>
 
 #include "base/text.h"
+#include "ui/text/qt_document.h"
+#include "ui/text/qt_formats.h"
 #include "ui/text/text_entry.h"
 #include "ui/utf8.h"
 
 namespace ui {
-namespace {
-
-QTextCharFormat toQt(const base::FormatChange& change) {
-  QTextCharFormat result;
-  if (change.family) result.setFontFamilies({toQString(*change.family)});
-  if (change.points) result.setFontPointSize(*change.points);
-  if (change.bold) result.setFontWeight(*change.bold ? QFont::Bold : QFont::Normal);
-  if (change.italic) result.setFontItalic(*change.italic);
-  if (change.underline) result.setFontUnderline(*change.underline);
-  return result;
-}
-
-// What `format` leaves open the document's own font says.
-base::CharFormat fromQt(const QTextCharFormat& format, const QFont& font) {
-  const QStringList families = format.fontFamilies().toStringList();
-  const bool ownWeight = format.hasProperty(QTextFormat::FontWeight);
-  const bool ownItalic = format.hasProperty(QTextFormat::FontItalic);
-  const bool ownUnderline = format.hasProperty(QTextFormat::TextUnderlineStyle);
-  return {.family = toUtf8(families.isEmpty() ? font.family() : families.constFirst()),
-          .points = format.hasProperty(QTextFormat::FontPointSize) ? format.fontPointSize() : font.pointSizeF(),
-          .bold = (ownWeight ? format.fontWeight() : font.weight()) >= QFont::DemiBold,
-          .italic = ownItalic ? format.fontItalic() : font.italic(),
-          .underline = ownUnderline ? format.fontUnderline() : font.underline()};
-}
-
-}  // namespace
 
 std::string QtRichText::plainText() const { return base::withWindowsLineEnds(toUtf8(edit_.document()->toRawText())); }
 
-void QtRichText::setPlainText(std::string_view text) { edit_.setPlainText(enteringText(toQString(text))); }
+void QtRichText::setPlainText(std::string_view text) { edit_.setWhole(enteringText(toQString(text))); }
+
+base::Document QtRichText::document() const {
+  return documentBetween(*edit_.document(), 0, edit_.document()->characterCount() - 1);
+}
+
+base::Document QtRichText::selectedDocument() const {
+  const QTextCursor cursor = edit_.textCursor();
+  return documentBetween(*edit_.document(), cursor.selectionStart(), cursor.selectionEnd());
+}
 
 base::TextSelection QtRichText::selection() const {
   const QTextCursor cursor = edit_.textCursor();
@@ -70,18 +55,22 @@ base::TextCount QtRichText::countSelection() const {
   return edit_.index().countBetween(cursor.selectionStart(), cursor.selectionEnd());
 }
 
-base::CharFormat QtRichText::format() const {
-  QTextCursor cursor = edit_.textCursor();
-  if (cursor.hasSelection()) cursor.setPosition(cursor.selectionStart() + 1);
-  return fromQt(cursor.charFormat(), edit_.document()->defaultFont());
+base::CharFormat QtRichText::format() const { return fromQt(edit_.formatAtCaret()); }
+
+void QtRichText::changeFormat(const base::FormatChange& change) { edit_.mergeFormat(toQt(change)); }
+
+base::Alignment QtRichText::alignment() const {
+  const QTextCursor cursor = edit_.textCursor();
+  return alignmentOf(edit_.document()->findBlock(cursor.selectionStart()).blockFormat());
 }
 
-void QtRichText::changeFormat(const base::FormatChange& change) {
-  const QTextCharFormat wanted = toQt(change);
+void QtRichText::setAlignment(base::Alignment alignment) {
   QTextCursor cursor = edit_.textCursor();
-  // What is typed next forgets its format when the caret moves; an empty line must keep it.
-  if (!cursor.hasSelection() && cursor.block().length() == 1) cursor.mergeBlockCharFormat(wanted);
-  edit_.mergeCurrentCharFormat(wanted);
+  const int start = cursor.selectionStart();
+  const int lastSelected = std::max(start, cursor.selectionEnd() - 1);
+  cursor.setPosition(start);
+  cursor.setPosition(lastSelected, QTextCursor::KeepAnchor);
+  cursor.mergeBlockFormat(toQt(alignment));
 }
 
 base::Caret QtRichText::caret() const { return edit_.index().caret(edit_.textCursor().position()); }

@@ -16,14 +16,20 @@ class QtRichText : public base::RichText {
 
   [[nodiscard]] std::string plainText() const override;
   void setPlainText(std::string_view text) override;
+  [[nodiscard]] base::Document document() const override;
+  [[nodiscard]] base::Document selectedDocument() const override;
+  void setDocument(const base::Document& document) override { edit_.setWhole(document); }
   [[nodiscard]] base::TextSelection selection() const override;
   void select(base::TextSelection selection) override;
   [[nodiscard]] std::string selectedText() const override;
   void replaceSelection(std::string_view text) override;
+  void replaceSelection(const base::Document& document) override { edit_.insertAsOneStep(document); }
   [[nodiscard]] base::TextCount countAll() const override { return edit_.index().countAll(); }
   [[nodiscard]] base::TextCount countSelection() const override;
   [[nodiscard]] base::CharFormat format() const override;
   void changeFormat(const base::FormatChange& change) override;
+  [[nodiscard]] base::Alignment alignment() const override;
+  void setAlignment(base::Alignment alignment) override;
   [[nodiscard]] base::Caret caret() const override;
   [[nodiscard]] std::uint64_t revision() const override { return edit_.index().revision(); }
 

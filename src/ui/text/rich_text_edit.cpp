@@ -4,10 +4,14 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QTextCharFormat>
+#include <QScopedValueRollback>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
 #include <utility>
+
+#include "ui/text/qt_document.h"
+#include "ui/text/qt_formats.h"
 
 namespace ui {
 namespace {
@@ -43,6 +47,8 @@ int mapped(int position, const Decomposed& piece) {
 
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), index_(*document()) {
   setAcceptRichText(false);
+  QTextCursor(document()).setBlockCharFormat(toQt(base::CharFormat{}));
+  lastFormat_ = formatAtCaret();
   connect(document(), &QTextDocument::contentsChange, this, &RichTextEdit::followChange);
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextEdit::settleChange);
   connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextEdit::noteCaret);
@@ -125,15 +131,104 @@ void RichTextEdit::insertAsOneStep(const QString& text) {
   ensureCursorVisible();
 }
 
-// A change within a change reports nothing, so the document must not be written here.
+void RichTextEdit::insertAsOneStep(const base::Document& document) {
+  const QScopedValueRollback<bool> brings(bringsFormats_, true);
+  QTextCursor cursor = textCursor();
+  insertDocument(cursor, document);
+  ensureCursorVisible();
+}
+
+void RichTextEdit::setWhole(const QString& text) {
+  const QTextCharFormat format = formatAtCaret();
+  replaceWhole([&](QTextCursor& cursor) {
+    cursor.removeSelectedText();
+    cursor.setBlockFormat(toQt(base::Alignment::left));
+    cursor.setBlockCharFormat(format);
+    cursor.insertText(text, format);
+  });
+}
+
+void RichTextEdit::setWhole(const base::Document& document) {
+  replaceWhole([&](QTextCursor& cursor) { insertDocument(cursor, document); });
+}
+
+// Nobody is told before the caret is at the start.
+void RichTextEdit::replaceWhole(const std::function<void(QTextCursor&)>& fill) {
+  document()->setUndoRedoEnabled(false);
+  {
+    const QScopedValueRollback<bool> settling(settling_, true);
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    cursor.select(QTextCursor::Document);
+    fill(cursor);
+    cursor.endEditBlock();
+    compose();
+    setTextCursor(QTextCursor(document()));
+  }
+  document()->setUndoRedoEnabled(true);
+  tellChange();
+}
+
+QTextCharFormat RichTextEdit::formatAtCaret() const {
+  QTextCursor cursor = textCursor();
+  const QTextBlock block = document()->findBlock(cursor.selectionStart());
+  const bool atLineEnd = cursor.selectionStart() == block.position() + block.length() - 1;
+  if (block.length() == 1 || (cursor.hasSelection() && atLineEnd)) return block.charFormat();
+  if (cursor.hasSelection()) cursor.setPosition(cursor.selectionStart() + 1);
+  return cursor.charFormat();
+}
+
+void RichTextEdit::mergeFormat(const QTextCharFormat& change) {
+  const QScopedValueRollback<bool> brings(bringsFormats_, true);
+  QTextCursor cursor = textCursor();
+  if (cursor.hasSelection()) {
+    mergeSelectionFormat(cursor, change);
+  } else {
+    // What is typed next forgets its format when the caret moves; an empty line must keep it.
+    if (cursor.block().length() == 1) cursor.mergeBlockCharFormat(change);
+    mergeCurrentCharFormat(change);
+  }
+  lastFormat_ = formatAtCaret();
+}
+
+// A line end's format is kept by the toolkit with the end before it, so the merge hits the wrong ones at both ends.
+void RichTextEdit::mergeSelectionFormat(QTextCursor selection, const QTextCharFormat& change) {
+  const QTextBlock first = document()->findBlock(selection.selectionStart());
+  const QTextBlock last = document()->findBlock(selection.selectionEnd());
+  const bool wholeLast = selection.selectionEnd() == document()->characterCount() - 1;
+  const QTextCharFormat lastFormat = last.charFormat();
+  selection.beginEditBlock();
+  selection.mergeCharFormat(change);
+  if (first != last) QTextCursor(first).mergeBlockCharFormat(change);
+  if (!wholeLast && first != last) QTextCursor(last).setBlockCharFormat(lastFormat);
+  if (wholeLast) QTextCursor(last).mergeBlockCharFormat(change);
+  selection.endEditBlock();
+}
+
+// A change within a change reports nothing, so the document must not be written here. How lines are broken is no part
+// of it, and must be known before they are laid out.
 void RichTextEdit::followChange(int from, int /*removed*/, int added) {
+  changing_ = true;
+  changeStart_ = from;
   index_.update(from, added);
   decomposed_ = findDecomposed(*document(), from, added);
+  const QTextOption::WrapMode mode =
+      index_.hasLongRun() ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
+  if (wordWrapMode() != mode) setWordWrapMode(mode);
 }
 
 void RichTextEdit::settleChange() {
-  if (composing_) return;
-  compose();
+  if (settling_) return;
+  {
+    const QScopedValueRollback<bool> settling(settling_, true);
+    compose();
+    keepFormats();
+  }
+  tellChange();
+}
+
+void RichTextEdit::tellChange() {
+  changing_ = false;
   emit edited();
   noteCaret();
 }
@@ -143,7 +238,6 @@ void RichTextEdit::settleChange() {
 void RichTextEdit::compose() {
   const std::vector<Decomposed> pieces = std::exchange(decomposed_, {});
   if (pieces.empty() || document()->isRedoAvailable()) return;
-  composing_ = true;
   Ends wanted = ends();
   QTextCursor cursor(document());
   cursor.joinPreviousEditBlock();
@@ -158,12 +252,32 @@ void RichTextEdit::compose() {
   cursor.endEditBlock();
   restore(wanted);
   decomposed_.clear();
-  composing_ = false;
+}
+
+// The toolkit forgets the format in which an empty line would be written: what is typed next keeps that of what stood
+// at the caret, and so does the line that was left by a line end. Joined to the step that emptied it, as composing is.
+void RichTextEdit::keepFormats() {
+  if (bringsFormats_ || document()->isRedoAvailable()) return;
+  const QTextBlock here = textCursor().block();
+  const QTextBlock left = document()->findBlock(changeStart_);
+  const bool atCaret = changeStart_ == std::min(lastEnds_.anchor, lastEnds_.position);
+  if (here.length() == 1) giveLineEnd(here, lastFormat_);
+  if (atCaret && left != here) giveLineEnd(left, lastFormat_);
+}
+
+void RichTextEdit::giveLineEnd(const QTextBlock& block, const QTextCharFormat& format) {
+  if (block.charFormat() == format) return;
+  QTextCursor cursor(block);
+  cursor.joinPreviousEditBlock();
+  cursor.setBlockCharFormat(format);
+  cursor.endEditBlock();
 }
 
 // The toolkit announces the caret before the text it moved in has settled, and one move often twice.
 void RichTextEdit::noteCaret() {
-  if (composing_ || !decomposed_.empty() || ends() == lastEnds_) return;
+  if (changing_) return;
+  lastFormat_ = formatAtCaret();
+  if (ends() == lastEnds_) return;
   lastEnds_ = ends();
   emit caretMoved();
 }

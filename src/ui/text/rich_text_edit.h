@@ -4,10 +4,13 @@
 // drag carry plain text both ways, a no-break space as one.
 #pragma once
 
+#include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextEdit>
+#include <functional>
 #include <vector>
 
+#include "base/document.h"
 #include "ui/text/text_entry.h"
 #include "ui/text/text_index.h"
 
@@ -24,6 +27,16 @@ class RichTextEdit : public QTextEdit {
 
   /// Puts `text` in the place of the selection; one undo takes it back, with all that composing made of it.
   void insertAsOneStep(const QString& text);
+  /// The same with formats of its own.
+  void insertAsOneStep(const base::Document& document);
+  /// Replace the whole text, which cannot be undone; the caret is at the start.
+  void setWhole(const QString& text);
+  void setWhole(const base::Document& document);
+
+  /// Of the first selected character, or of what is typed next.
+  [[nodiscard]] QTextCharFormat formatAtCaret() const;
+  /// Merged into the formats of the selection and the line ends in it, or into that of what is typed next.
+  void mergeFormat(const QTextCharFormat& change);
 
   /// From now on somebody else's commands answer the keys of cutting, copying, pasting, selecting all and deleting a
   /// selection: where these are disabled, the keys do nothing.
@@ -56,16 +69,25 @@ class RichTextEdit : public QTextEdit {
   [[nodiscard]] bool isLeftToCommands(const QKeyEvent& key) const;
   void followChange(int from, int removed, int added);
   void settleChange();
+  void tellChange();
   void compose();
+  void keepFormats();
+  void giveLineEnd(const QTextBlock& block, const QTextCharFormat& format);
+  void mergeSelectionFormat(QTextCursor selection, const QTextCharFormat& change);
+  void replaceWhole(const std::function<void(QTextCursor&)>& fill);
   void noteCaret();
   [[nodiscard]] Ends ends() const;
   void restore(Ends wanted);
 
   TextIndex index_;
   std::vector<Decomposed> decomposed_;  // found in the change under way
-  bool composing_ = false;
+  bool changing_ = false;               // the document changes and has not settled
+  bool settling_ = false;               // what changes now is our own doing
+  bool bringsFormats_ = false;          // the change says itself what formats there are
+  int changeStart_ = 0;
+  Ends lastEnds_;  // when the document had settled last, and the format there
+  QTextCharFormat lastFormat_;
   bool leavesKeys_ = false;
-  Ends lastEnds_;
 };
 
 }  // namespace ui

@@ -26,6 +26,13 @@ bool mayBeDecomposed(const QString& text) {
                  kFirstCombining);
 }
 
+// Told at a glance of most texts.
+bool isClean(const QString& text) {
+  constexpr char16_t kFirstSurrogate = 0xD800;
+  const auto* const units = reinterpret_cast<const char16_t*>(text.utf16());
+  return !reaches(units, static_cast<std::size_t>(text.size()), kFirstSurrogate) && !text.contains(QChar(0));
+}
+
 bool joinsPrevious(char32_t c) {
   const bool hangulPart = c >= 0x1160 && c <= 0x11FF;
   return c >= kFirstCombining && (hangulPart || QChar::isMark(c));
@@ -101,20 +108,23 @@ void appendDecomposed(const QString& text, int position, std::vector<Decomposed>
 
 }  // namespace
 
-QString enteringText(const QString& text) {
+QString cleanedText(const QString& text) {
+  if (isClean(text)) return text;
   QString result;
   result.reserve(text.size());
   for (qsizetype i = 0; i < text.size();) {
     const char32_t c = codePointAt(text, i);
     const int units = unitsOf(c);
     const bool lone = units == 1 && QChar::isSurrogate(c);
-    if (c == QChar::LineSeparator) {
-      result += QLatin1Char('\n');
-    } else if (!lone && base::isTextCharacter(c)) {
-      result += QStringView(text).sliced(i, units);
-    }
+    if (!lone && base::isTextCharacter(c)) result += QStringView(text).sliced(i, units);
     i += units;
   }
+  return result;
+}
+
+QString enteringText(const QString& text) {
+  QString result = cleanedText(text);
+  result.replace(QChar::LineSeparator, QLatin1Char('\n'));
   return mayBeDecomposed(result) ? qtcore::composed(result) : result;
 }
 

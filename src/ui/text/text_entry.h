@@ -7,6 +7,9 @@
 
 namespace ui {
 
+/// `text` without lone surrogates and what base::isTextCharacter() refuses.
+QString cleanedText(const QString& text);
+
 /// `text` fit for a document: composed, without lone surrogates and what base::isTextCharacter() refuses, each U+2028 a
 /// line feed. Other line ends are left to the toolkit, which knows them all.
 QString enteringText(const QString& text);

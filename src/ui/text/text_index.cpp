@@ -16,41 +16,44 @@ using base::TextCount;
 
 constexpr int kStride = 64;
 
-TextCount plus(const TextCount& a, const TextCount& b) {
-  return {a.characters + b.characters, a.blanks + b.blanks, a.lineEnds + b.lineEnds};
-}
+// A longer run without a place to break makes laying out lines at word boundaries quadratic.
+constexpr std::size_t kLongRun = 10'000;
 
-TextCount minus(const TextCount& a, const TextCount& b) {
-  return {a.characters - b.characters, a.blanks - b.blanks, a.lineEnds - b.lineEnds};
-}
-
-// As a stretch of plain text, in which a line end is two code points.
-std::int64_t codePoints(const TextCount& count) { return count.characters + 2 * count.lineEnds; }
+struct BlockSummary {
+  TextCount count;
+  bool hasLongRun = false;
+};
 
 class BlockCount : public QTextBlockUserData {
  public:
-  explicit BlockCount(std::shared_ptr<TextCount> totals) : totals_(std::move(totals)) {}
+  explicit BlockCount(std::shared_ptr<TextTotals> totals) : totals_(std::move(totals)) {}
   BlockCount(const BlockCount&) = delete;
   BlockCount& operator=(const BlockCount&) = delete;
   ~BlockCount() override { set({}); }
 
-  [[nodiscard]] const TextCount& get() const { return count_; }
-  void set(const TextCount& count) {
-    *totals_ = plus(minus(*totals_, count_), count);
-    count_ = count;
+  [[nodiscard]] const TextCount& get() const { return summary_.count; }
+  void set(const BlockSummary& summary) {
+    totals_->count = totals_->count - summary_.count + summary.count;
+    totals_->longRuns += (summary.hasLongRun ? 1 : 0) - (summary_.hasLongRun ? 1 : 0);
+    summary_ = summary;
   }
 
  private:
-  std::shared_ptr<TextCount> totals_;
-  TextCount count_;
+  std::shared_ptr<TextTotals> totals_;
+  BlockSummary summary_;
 };
 
 TextCount countText(QStringView text) { return countUtf16(text.utf16(), static_cast<std::size_t>(text.size())); }
 
+BlockSummary summaryOf(const QString& text) {
+  const auto* const units = reinterpret_cast<const char16_t*>(text.utf16());
+  return {countText(text), hasUnbrokenRun(units, static_cast<std::size_t>(text.size()), kLongRun)};
+}
+
 const TextCount& countOf(const QTextBlock& block) { return static_cast<const BlockCount*>(block.userData())->get(); }
 
 // With the line end behind it, which only the last paragraph lacks.
-TextCount countWithEnd(const QTextBlock& block) { return plus(countOf(block), {.lineEnds = 1}); }
+TextCount countWithEnd(const QTextBlock& block) { return countOf(block) + TextCount{.lineEnds = 1}; }
 
 // A regular paragraph needs no walk: each of its units is a character.
 bool isRegular(const QTextBlock& block) { return countOf(block).characters == block.length() - 1; }
@@ -78,7 +81,7 @@ int unitsOfHead(const QTextBlock& block, std::int64_t position) {
 }  // namespace
 
 TextIndex::TextIndex(const QTextDocument& document)
-    : document_(document), totals_(std::make_shared<TextCount>()), sums_(1) {
+    : document_(document), totals_(std::make_shared<TextTotals>()), sums_(1) {
   update(0, document.characterCount());
 }
 
@@ -93,7 +96,7 @@ void TextIndex::update(int from, int added) {
   for (; block.isValid() && block.position() <= end; block = block.next()) recount(block);
 }
 
-TextCount TextIndex::countAll() const { return plus(*totals_, {.lineEnds = document_.blockCount() - 1}); }
+TextCount TextIndex::countAll() const { return totals_->count + TextCount{.lineEnds = document_.blockCount() - 1}; }
 
 TextCount TextIndex::countBetween(int begin, int end) const {
   begin = within(begin);
@@ -103,8 +106,8 @@ TextCount TextIndex::countBetween(int begin, int end) const {
   const QTextBlock last = document_.findBlock(end);
   const int beginInFirst = begin - first.position();
   if (first == last) return countText(QStringView(first.text()).sliced(beginInFirst, end - begin));
-  const TextCount whole = minus(countBefore(last), countBefore(first));
-  return plus(minus(whole, countHead(first, beginInFirst)), countHead(last, end - last.position()));
+  const TextCount whole = countBefore(last) - countBefore(first);
+  return whole - countHead(first, beginInFirst) + countHead(last, end - last.position());
 }
 
 int TextIndex::within(int documentPosition) const {
@@ -146,7 +149,7 @@ base::Caret TextIndex::caret(int documentPosition) const {
 
 void TextIndex::recount(QTextBlock block) {
   if (block.userData() == nullptr) block.setUserData(new BlockCount(totals_));
-  static_cast<BlockCount*>(block.userData())->set(countText(block.text()));
+  static_cast<BlockCount*>(block.userData())->set(summaryOf(block.text()));
 }
 
 TextCount TextIndex::countBefore(const QTextBlock& block) const {
@@ -155,7 +158,7 @@ TextCount TextIndex::countBefore(const QTextBlock& block) const {
   extendSums(nearest + 1);
   TextCount sum = sums_[nearest];
   QTextBlock walked = document_.findBlockByNumber(number / kStride * kStride);
-  for (; walked != block; walked = walked.next()) sum = plus(sum, countWithEnd(walked));
+  for (; walked != block; walked = walked.next()) sum = sum + countWithEnd(walked);
   return sum;
 }
 
@@ -164,7 +167,7 @@ void TextIndex::extendSums(std::size_t count) const {
   QTextBlock block = document_.findBlockByNumber(static_cast<int>(sums_.size() - 1) * kStride);
   while (sums_.size() < count) {
     TextCount sum = sums_.back();
-    for (int i = 0; i < kStride; ++i, block = block.next()) sum = plus(sum, countWithEnd(block));
+    for (int i = 0; i < kStride; ++i, block = block.next()) sum = sum + countWithEnd(block);
     sums_.push_back(sum);
   }
 }

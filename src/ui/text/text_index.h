@@ -16,6 +16,12 @@
 
 namespace ui {
 
+/// Of the paragraphs, without the ends between them.
+struct TextTotals {
+  base::TextCount count;
+  int longRuns = 0;  // paragraphs with a run of more than 10,000 characters and no place to break a line
+};
+
 class TextIndex {
  public:
   /// A document has one index at most, and its paragraphs' user data belong to it.
@@ -25,6 +31,7 @@ class TextIndex {
   void update(int from, int added);
 
   [[nodiscard]] base::TextCount countAll() const;
+  [[nodiscard]] bool hasLongRun() const { return totals_->longRuns > 0; }
   /// What lies between two positions of the toolkit, of which `end` is not the smaller.
   [[nodiscard]] base::TextCount countBetween(int begin, int end) const;
 
@@ -44,8 +51,7 @@ class TextIndex {
   void extendSums(std::size_t count) const;
 
   const QTextDocument& document_;
-  // Of the paragraphs without the ends between them; shared, for a document may outlive its index.
-  std::shared_ptr<base::TextCount> totals_;
+  std::shared_ptr<TextTotals> totals_;         // shared, for a document may outlive its index
   mutable std::vector<base::TextCount> sums_;  // [k]: all before paragraph 64 k
   std::uint64_t revision_ = 0;
 };

@@ -61,4 +61,16 @@ bool reaches(const char16_t* text, std::size_t length, char16_t limit) {
   return length > 0 && largest >= limit;
 }
 
+bool hasUnbrokenRun(const char16_t* text, std::size_t length, std::size_t limit) {
+  const auto breaks = [](char16_t unit) { return unit == u' ' || unit == u'\t' || unit == u'\u2028'; };
+  std::size_t begin = 0;
+  while (length - begin > limit) {
+    std::size_t last = begin + limit + 1;
+    while (last > begin && !breaks(text[last - 1])) --last;
+    if (last == begin) return true;
+    begin = last;
+  }
+  return false;
+}
+
 }  // namespace ui

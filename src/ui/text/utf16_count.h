@@ -15,4 +15,8 @@ base::TextCount countUtf16(const char16_t* text, std::size_t length);
 /// True when a unit of the text is `limit` or above.
 bool reaches(const char16_t* text, std::size_t length, char16_t limit);
 
+/// True when more than `limit` units stand between two places where a line may break: blanks, tabs and U+2028. Looks at
+/// a fraction of a text that has them.
+bool hasUnbrokenRun(const char16_t* text, std::size_t length, std::size_t limit);
+
 }  // namespace ui

@@ -1,0 +1,20 @@
+// The formats of the logic as those of the toolkit, and back.
+#pragma once
+
+#include <QTextBlockFormat>
+#include <QTextCharFormat>
+
+#include "base/rich_text.h"
+
+namespace ui {
+
+/// Says all that `change` does, an automatic colour too, so that it can be merged into formats.
+QTextCharFormat toQt(const base::FormatChange& change);
+inline QTextCharFormat toQt(const base::CharFormat& format) { return toQt(base::changeTo(format)); }
+/// What `format` leaves open is as in a fresh base::CharFormat.
+base::CharFormat fromQt(const QTextCharFormat& format);
+
+QTextBlockFormat toQt(base::Alignment alignment);
+base::Alignment alignmentOf(const QTextBlockFormat& format);
+
+}  // namespace ui
