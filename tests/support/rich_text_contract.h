@@ -175,6 +175,10 @@ TEST_P(RichTextContract, theFormatIsThatOfTheSelectionOrOfWhatIsTypedNext) {
   }
   EXPECT_EQ(text->plainText(), "abc\r\nd");
 
+  text->select({0, 3});
+  text->replaceSelection("abc");
+  EXPECT_EQ(text->format(), plain) << "that of the first character replaced";
+
   text->select({6, 0});
   text->setFormat(loud);
   EXPECT_EQ(text->format(), loud);

@@ -147,6 +147,88 @@ TEST(RichTextEdit, pastesPlainTextInTheFormatOfTheCaret) {
   }
 }
 
+// \b erases, < goes to the start of the line, ^ selects all, v pastes.
+void typeKeys(ui::RichTextEdit& edit, const QString& keys) {
+  for (const QChar key : keys) {
+    if (key == '\n') {
+      QTest::keyClick(&edit, Qt::Key_Return);
+    } else if (key == '\b') {
+      QTest::keyClick(&edit, Qt::Key_Backspace);
+    } else if (key == '<') {
+      QTest::keyClick(&edit, Qt::Key_Home);
+    } else if (key == '^') {
+      QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
+    } else if (key == 'v') {
+      QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    } else {
+      QTest::keyClick(&edit, key.toLatin1());
+    }
+  }
+}
+
+TEST(RichTextEdit, linesKeepTheFormatThatWasTypedBefore) {
+  struct Row {
+    QString keys;
+    std::string text;
+  };
+  const std::vector<Row> rows = {
+      {"\b\nA", "\r\nA"},        {"\n\nDEF", "x\r\n\r\nDEF"}, {"^\bD", "D"},
+      {"^\b\n\nD", "\r\n\r\nD"}, {"\nB\bC<\b", "xC"},         {"\nB<\nC", "x\r\n\r\nCB"},
+      {"\n\n\b\bA", "xA"},       {"^v", "1\r\n\r\n2\r\n"},    {"\nv\b3", "x\r\n1\r\n\r\n23"},
+      {"\n^\n", "\r\n"},         {"<\n\n", "\r\n\r\nx"},      {"\n<v", "x\r\n1\r\n\r\n2\r\n"},
+  };
+  const base::CharFormat start{.family = "Arial", .points = 24};
+  const base::CharFormat chosen{.family = "Courier New", .points = 30, .bold = true};
+  for (const Row& row : rows) {
+    Screen screen;
+    QApplication::clipboard()->setText("1\n\n2\n");
+    screen.text.setFormat(start);
+    typeKeys(screen.edit, "x");
+    screen.edit.selectAll();
+    screen.text.setFormat(chosen);
+    screen.edit.moveCursor(QTextCursor::End);
+    typeKeys(screen.edit, row.keys);
+    EXPECT_EQ(screen.text.plainText(), row.text);
+    EXPECT_EQ(screen.text.document().formats, std::vector{chosen}) << row.text;
+    while (screen.edit.document()->isUndoAvailable()) screen.edit.undo();
+    EXPECT_EQ(screen.text.plainText(), "") << row.text;
+  }
+}
+
+TEST(RichTextEdit, aFormatChosenInAnEmptyLineStaysThere) {
+  Screen screen;
+  typeKeys(screen.edit, "A\n\nB");
+  screen.text.select({3, 0});
+  screen.text.changeFormat({.points = 99});
+  screen.text.select({0, 0});
+  screen.text.select({3, 0});
+  EXPECT_EQ(screen.text.format().points, 99);
+  typeKeys(screen.edit, "C");
+  EXPECT_EQ(screen.text.format().points, 99);
+  screen.text.select({6, 1});
+  EXPECT_EQ(screen.text.format().points, 8);
+}
+
+TEST(RichTextEdit, aLongUnbrokenRunIsBrokenAnywhere) {
+  Screen screen;
+  const auto mode = [&] { return screen.edit.wordWrapMode(); };
+  screen.text.setPlainText(std::string(10'000, 'a') + " " + std::string(10'000, 'b') + "\nc");
+  EXPECT_EQ(mode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+  screen.text.select({20'000, 0});
+  typeKeys(screen.edit, "b");
+  EXPECT_EQ(mode(), QTextOption::WrapAnywhere);
+  typeKeys(screen.edit, "\b");
+  EXPECT_EQ(mode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+  screen.text.select({10'000, 1});
+  typeKeys(screen.edit, "x");
+  EXPECT_EQ(mode(), QTextOption::WrapAnywhere);
+  screen.edit.undo();
+  EXPECT_EQ(mode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+  screen.text.replaceSelection("x");
+  screen.text.setPlainText("");
+  EXPECT_EQ(mode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
 TEST(RichTextEdit, copiesNoBreakSpacesAsSuch) {
   Screen screen;
   screen.text.setPlainText("a\u00A0b\r\nc");
@@ -198,8 +280,11 @@ TEST(RichTextEdit, tellsOnceWhatHappened) {
   EXPECT_EQ(std::vector({edited.count(), moved.count(), released.count()}), std::vector<qsizetype>({1, 1, 1}));
   QTest::keyClick(&screen.edit, Qt::Key_Left);
   EXPECT_EQ(std::vector({edited.count(), moved.count(), released.count()}), std::vector<qsizetype>({1, 2, 2}));
+  screen.edit.selectAll();
+  QTest::keyClick(&screen.edit, Qt::Key_A);
+  EXPECT_EQ(edited.count(), 2) << "the same text again";
   QTest::mouseClick(screen.edit.viewport(), Qt::LeftButton);
-  EXPECT_EQ(released.count(), 3);
+  EXPECT_EQ(released.count(), 4);
 }
 
 // A plain recount of everything the index answers.

@@ -30,10 +30,11 @@ QString textOf(const QMimeData& source) {
   return withLineFeeds(page.toRawText());
 }
 
-// A mark without a letter of its own, such as some keyboards send behind the letter.
-bool typesMark(const QKeyEvent& key) {
+bool isTypedCharacter(QChar c) { return c.isPrint() || c.isMark() || c.isHighSurrogate(); }
+
+bool typesText(const QKeyEvent& key) {
   const bool plain = !key.modifiers().testFlag(Qt::ControlModifier) && !key.modifiers().testFlag(Qt::AltModifier);
-  return plain && !key.text().isEmpty() && key.text().front().isMark();
+  return plain && !key.text().isEmpty() && isTypedCharacter(key.text().front());
 }
 
 // Where an end of the selection stands after `piece` was composed: not within it.
@@ -88,12 +89,21 @@ void RichTextEdit::keyPressEvent(QKeyEvent* event) {
     event->ignore();
     return;
   }
-  if (typesMark(*event) && !isReadOnly()) {
-    insertAsOneStep(event->text());
+  if (const QString text = typedByUs(*event); !text.isEmpty() && !isReadOnly()) {
+    insertAsOneStep(text);
     event->accept();
     return;
   }
   QTextEdit::keyPressEvent(event);
+}
+
+// What the toolkit would type otherwise: a mark without a letter of its own, such as some keyboards send behind the
+// letter; a line end, which would lose its format in an empty line; what takes the place of a selection, which would
+// have the format of its last character.
+QString RichTextEdit::typedByUs(const QKeyEvent& key) const {
+  if (key.matches(QKeySequence::InsertParagraphSeparator)) return QStringLiteral("\n");
+  const bool ours = textCursor().hasSelection() || (!key.text().isEmpty() && key.text().front().isMark());
+  return ours && typesText(key) ? key.text() : QString();
 }
 
 void RichTextEdit::keyReleaseEvent(QKeyEvent* event) {
@@ -126,7 +136,7 @@ QMimeData* RichTextEdit::createMimeDataFromSelection() const {
 void RichTextEdit::insertAsOneStep(const QString& text) {
   QTextCursor cursor = textCursor();
   cursor.beginEditBlock();
-  insertPlainText(text);
+  cursor.insertText(text, formatAtCaret());
   cursor.endEditBlock();
   ensureCursorVisible();
 }

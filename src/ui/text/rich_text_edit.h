@@ -67,6 +67,7 @@ class RichTextEdit : public QTextEdit {
   };
 
   [[nodiscard]] bool isLeftToCommands(const QKeyEvent& key) const;
+  [[nodiscard]] QString typedByUs(const QKeyEvent& key) const;
   void followChange(int from, int removed, int added);
   void settleChange();
   void tellChange();
