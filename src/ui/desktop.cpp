@@ -26,10 +26,11 @@ Desktop::Desktop(const lifecycle::ProgramDirectory& directory)
   mainForm_.restoreLayout();
 }
 
-// What ends with the desktop shall not be told to it any more.
+// The windows go before the program that they show, and nothing is told to a desktop that ends.
 Desktop::~Desktop() {
   gate_.setWhenFree(nullptr);
   sync_.close(timers_);
+  windows_.takeDown();
 }
 
 void Desktop::offerWindows() {

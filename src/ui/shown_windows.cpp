@@ -29,9 +29,11 @@ QDialog& dialogOf(QWidget& widget) {
 
 // The bindings first: they give the texts of the widgets back to their models. The main window, which the others belong
 // to, goes last.
-ShownWindows::~ShownWindows() {
+void ShownWindows::takeDown() {
   for (const auto& entry : entries_) delete entry->bindings;
   for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) delete (*entry)->widget;
+  open_.clear();
+  entries_.clear();
 }
 
 ShownWindows::Entry& ShownWindows::entryOf(const base::Window& model) {

@@ -17,7 +17,6 @@ namespace ui {
 class ShownWindows : public QObject {
  public:
   ShownWindows(Gate& gate, Sync& sync) : gate_(gate), sync_(sync) {}
-  ~ShownWindows() override;
 
   /// Says how the form of `model`, a base::Window with `eachControl`, is built and bound; both outlive this.
   template <typename Model>
@@ -42,6 +41,9 @@ class ShownWindows : public QObject {
 
   /// Closes every open window but `last`, the newest first; false as soon as one refuses.
   bool closeAllBut(const base::Window& last);
+
+  /// Takes every window from the screen for good, while the models are still there.
+  void takeDown();
 
   /// Brings a window to the screen that was to come only if it takes longer: it does.
   void showLateOnes();

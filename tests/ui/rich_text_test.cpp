@@ -212,7 +212,9 @@ TEST(RichTextEdit, aFormatChosenInAnEmptyLineStaysThere) {
 TEST(RichTextEdit, aLongUnbrokenRunIsBrokenAnywhere) {
   Screen screen;
   const auto mode = [&] { return screen.edit.wordWrapMode(); };
-  screen.text.setPlainText(std::string(10'000, 'a') + " " + std::string(10'000, 'b') + "\nc");
+  std::string runs(10'000, 'a');
+  runs.append(" ").append(10'000, 'b').append("\nc");
+  screen.text.setPlainText(runs);
   EXPECT_EQ(mode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
   screen.text.select({20'000, 0});
   typeKeys(screen.edit, "b");
