@@ -97,7 +97,7 @@ class Collector {
   void add(const QTextBlock& block) {
     base::Paragraph& paragraph = result_.paragraphs.emplace_back();
     for (auto i = block.begin(); !i.atEnd(); ++i) add(paragraph, i.fragment());
-    paragraph.endFormat = number(block.charFormatIndex(), block.charFormat());
+    paragraph.endFormat = number(block);
     paragraph.alignment = alignmentOf(block.blockFormat());
   }
 
@@ -112,16 +112,17 @@ class Collector {
     const QByteArray bytes = text.toUtf8();
     if (bytes.isEmpty()) return;
     paragraph.text.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    paragraph.runs.push_back(
-        {static_cast<std::uint32_t>(bytes.size()), number(fragment.charFormatIndex(), fragment.charFormat())});
+    paragraph.runs.push_back({static_cast<std::uint32_t>(bytes.size()), number(fragment)});
   }
 
-  std::uint32_t number(int toolkitNumber, const QTextCharFormat& format) {
-    const auto index = static_cast<std::size_t>(toolkitNumber);
+  // Of a block or fragment.
+  template <typename Part>
+  std::uint32_t number(const Part& part) {
+    const auto index = static_cast<std::size_t>(part.charFormatIndex());
     if (numbers_.size() <= index) numbers_.resize(index + 1, kNone);
     if (numbers_[index] == kNone) {
       numbers_[index] = static_cast<std::uint32_t>(result_.formats.size());
-      result_.formats.push_back(fromQt(format));
+      result_.formats.push_back(fromQt(part.charFormat()));
     }
     return numbers_[index];
   }

@@ -48,7 +48,9 @@ int mapped(int position, const Decomposed& piece) {
 
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), index_(*document()) {
   setAcceptRichText(false);
-  QTextCursor(document()).setBlockCharFormat(toQt(base::CharFormat{}));
+  const QTextCharFormat fresh = toQt(base::CharFormat{});
+  document()->setDefaultFont(fresh.font());
+  QTextCursor(document()).setBlockCharFormat(fresh);
   lastFormat_ = formatAtCaret();
   connect(document(), &QTextDocument::contentsChange, this, &RichTextEdit::followChange);
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextEdit::settleChange);
