@@ -132,7 +132,7 @@ class Reader {
   char32_t highSurrogate_ = 0;
   std::string encoded_;  // bytes that may be halves of characters
   bool cellEnded_ = false;
-  bool rowEnded_ = false;  // by the last line end; a row is not the document's last line
+  bool rowEnded_ = false;                   // by the last line end; a row is not the document's last line
   std::optional<Alignment> cellAlignment_;  // of the row's first cell
   Alignment textAlignment_ = Alignment::left;
 };
@@ -461,7 +461,8 @@ void Reader::apply(Value value, const RtfToken& token) {
           static_cast<std::uint16_t>(std::clamp(number, kSmallestHalfPoints, kLargestHalfPoints));
       return;
     case Value::colour:
-      state_.characters.colour = static_cast<std::uint16_t>(number < 0 || number > 0xFFFF ? RtfCharacters::kNoColour : number);
+      state_.characters.colour =
+          static_cast<std::uint16_t>(number < 0 || number > 0xFFFF ? RtfCharacters::kNoColour : number);
       return;
     case Value::unicode:
       return putUnit(number);
@@ -494,17 +495,19 @@ void Reader::setFont(int number) {
 
 void Reader::putUnit(int number) {
   fallbackLeft_ = state_.fallbackLength;
+  const bool inName = state_.destination == Destination::fontTable;
+  if (!inName && !isShown()) return;
   char32_t unit = unitOf(number);
-  if (state_.destination == Destination::fontTable) return fonts_.addName(unit);
-  if (!isShown()) return;
   if (isLowSurrogate(unit) && highSurrogate_ != 0) {
     unit = 0x10000 + ((std::exchange(highSurrogate_, 0) - 0xD800) << 10U) + (unit - 0xDC00);
   }
+  if (inName) highSurrogate_ = 0;
   settle();
   if (isHighSurrogate(unit)) {
     highSurrogate_ = unit;
   } else {
-    put(isLowSurrogate(unit) ? kReplacement : unit);
+    const char32_t character = isLowSurrogate(unit) ? kReplacement : unit;
+    inName ? fonts_.addName(character) : put(character);
   }
 }
 

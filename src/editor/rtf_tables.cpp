@@ -5,6 +5,7 @@
 #include <array>
 #include <utility>
 
+#include "base/rich_text.h"
 #include "base/text.h"
 
 namespace editor {
@@ -31,15 +32,31 @@ std::string_view trimmed(std::string_view name) {
   return name;
 }
 
-std::string familyOf(std::string_view name, int charset) {
-  name = trimmed(name);
-  for (const Suffix& suffix : kSuffixes) {
-    if (suffix.charset == charset && name.ends_with(suffix.text)) name.remove_suffix(suffix.text.size());
+// `name` without what no name has, at most as long as names may be.
+std::string bounded(std::string_view name) {
+  std::string family;
+  while (!name.empty() && family.size() <= kLongestName - 4) {
+    const char32_t character = base::takeCodePoint(name);
+    if (isFamilyCharacter(character)) base::appendCodePoint(family, character);
   }
-  return std::string(trimmed(name));
+  return family;
+}
+
+std::string familyOf(std::string_view name, int charset) {
+  const std::string whole = bounded(trimmed(name));
+  std::string_view family = trimmed(whole);
+  for (const Suffix& suffix : kSuffixes) {
+    if (suffix.charset == charset && family.ends_with(suffix.text)) family.remove_suffix(suffix.text.size());
+  }
+  return std::string(trimmed(family));
 }
 
 }  // namespace
+
+bool isFamilyCharacter(char32_t character) {
+  return character >= 0x20 && std::u32string_view(U";{}\\\x2028\x2029").find(character) == std::u32string_view::npos &&
+         base::isTextCharacter(character);
+}
 
 void RtfFontTable::beginEntry(int number) {
   endEntry();
@@ -87,7 +104,7 @@ int RtfFontTable::symbolFont(const std::string& family) {
   if (found != symbolFonts_.end()) return found->second;
   if (fonts_.size() > kLastNumber) return kLastNumber;
   const auto number = static_cast<int>(fonts_.size());
-  fonts_.push_back({family, kSymbolPage});
+  fonts_.push_back({familyOf(family, 0), kSymbolPage});
   symbolFonts_.emplace(family, number);
   return number;
 }

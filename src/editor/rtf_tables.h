@@ -15,6 +15,9 @@
 
 namespace editor {
 
+/// What can stand in the name of a family; the rest is dropped there.
+bool isFamilyCharacter(char32_t character);
+
 /// An entry: what a family is called, and how its bytes are encoded.
 struct RtfFont {
   std::string family;  // empty: none is named

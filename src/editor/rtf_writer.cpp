@@ -16,6 +16,7 @@
 #include "base/rich_text.h"
 #include "base/text.h"
 #include "base/version.h"
+#include "editor/rtf_tables.h"
 
 namespace editor {
 namespace {
@@ -44,8 +45,6 @@ struct Numbers {
 
 bool isPlain(char32_t c) { return c >= 0x20 && c < 0x7F && c != U'\\' && c != U'{' && c != U'}'; }
 
-bool isNameCharacter(char32_t c) { return c >= 0x20 && c != U';' && c != U'{' && c != U'}' && c != U'\\'; }
-
 class Writer {
  public:
   explicit Writer(const base::Document& document) : document_(document) {}
@@ -65,7 +64,9 @@ class Writer {
   void format(std::uint32_t index);
   void text(std::string_view text);
   void character(char32_t character);
+  void nameCharacter(char32_t character);
   void escaped(char32_t character);
+  void numbered(char32_t character);
   void unit(char32_t unit);
   void fallback(char32_t character);
 
@@ -142,7 +143,7 @@ void Writer::fontTable() {
     put("\\fnil\\fcharset0 ");
     for (std::string_view rest = fonts_[number]; !rest.empty();) {
       const char32_t letter = base::takeCodePoint(rest);
-      if (isNameCharacter(letter)) character(letter);
+      if (isFamilyCharacter(letter)) nameCharacter(letter);
     }
     put(";}");
   }
@@ -227,12 +228,27 @@ void Writer::character(char32_t character) {
     put(" ");  // no paragraph holds one
   } else if (character == 0xA0) {
     put("\\~");
-  } else if (character > 0xFFFF) {
+  } else if (base::isTextCharacter(character)) {
+    numbered(character);
+  }
+}
+
+// Names know no control symbols.
+void Writer::nameCharacter(char32_t character) {
+  if (isPlain(character)) {
+    out_ += static_cast<char>(character);
+  } else {
+    numbered(character);
+  }
+}
+
+void Writer::numbered(char32_t character) {
+  if (character > 0xFFFF) {
     unit(0xD800 + ((character - 0x10000) >> 10U));
     put("?");
     unit(0xDC00 + ((character - 0x10000) & 0x3FFU));
     put("?");
-  } else if (base::isTextCharacter(character)) {
+  } else {
     unit(character);
     fallback(character);
   }
@@ -242,8 +258,7 @@ void Writer::escaped(char32_t character) {
   if (character == U'\t') {
     put("\\tab ");
   } else if (character == 0x7F) {
-    unit(character);
-    put("?");
+    numbered(character);
   } else if (character >= 0x20) {
     out_ += '\\';
     out_ += static_cast<char>(character);

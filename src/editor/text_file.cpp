@@ -15,8 +15,8 @@ constexpr std::string_view kLittleEndianMark = "\xFF\xFE";
 constexpr std::string_view kBigEndianMark = "\xFE\xFF";
 
 char32_t unitAt(std::string_view bytes, std::size_t at, bool bigEndian) {
-  const auto first = static_cast<unsigned char>(bytes[at]);
-  const auto second = static_cast<unsigned char>(bytes[at + 1]);
+  const char32_t first = static_cast<unsigned char>(bytes[at]);
+  const char32_t second = static_cast<unsigned char>(bytes[at + 1]);
   return bigEndian ? first << 8U | second : second << 8U | first;
 }
 
