@@ -2,20 +2,19 @@
 #include "editor/rtf_reader.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <cstddef>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <utility>
+#include <variant>
 #include <vector>
 
-#include "base/rich_text.h"
 #include "base/text.h"
 #include "editor/code_pages.h"
-#include "editor/document_builder.h"
 #include "editor/rtf_field.h"
 #include "editor/rtf_state.h"
-#include "editor/rtf_tables.h"
+#include "editor/rtf_styles.h"
+#include "editor/rtf_text.h"
 #include "editor/rtf_tokenizer.h"
 
 namespace editor {
@@ -26,31 +25,14 @@ using base::Script;
 using Kind = RtfToken::Kind;
 
 constexpr std::size_t kDeepestGroup = 65'536;
-constexpr std::size_t kMostCachedFormats = 65'536;
 constexpr std::size_t kLongestInstruction = 255;
 constexpr int kSmallestHalfPoints = 2;
 constexpr int kLargestHalfPoints = 3276;
-constexpr char32_t kReplacement = 0xFFFD;
-
-bool isHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool isLowSurrogate(char32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
-
-// Writers give the number of a UTF-16 unit with a sign or without one, some that of the character itself.
-char32_t unitOf(int number) {
-  const int value = number < 0 ? number + 0x10000 : number;
-  return value < 0 || value > 0x10FFFF ? kReplacement : static_cast<char32_t>(value);
-}
 
 bool isUnicode(const Meaning& meaning) {
   const auto* const destination = std::get_if<Destination>(&meaning);
   return destination != nullptr && *destination == Destination::unicode;
 }
-
-// What the properties of characters come to with the tables of this file.
-struct Style {
-  const CodePage* page = nullptr;
-  std::optional<std::uint32_t> format = {};  // known when text was written in it
-};
 
 class Reader {
  public:
@@ -89,36 +71,11 @@ class Reader {
   void setFont(int number);
   void chooseScript(Script script, bool on);
 
-  void put(char32_t character);
-  void putBytes(std::string_view bytes);
-  void append(std::string_view text);
-  void settleBytes();
-  void settle();
-  void endParagraph();
-  void endCell();
-  void endRow();
-  base::Document finish();
-
   [[nodiscard]] bool isText() const { return state_.destination == Destination::text; }
-  [[nodiscard]] bool isShown() const { return isText() && !state_.hidden && !state_.deleted; }
-  Style& style();
-  const CodePage& page() { return *style().page; }
-  std::uint32_t format();
-  [[nodiscard]] base::CharFormat characterFormat() const;
-  [[nodiscard]] const RtfFont& font() const;
-  [[nodiscard]] int documentPage() const;
-  void forgetStyles();
 
   RtfTokenizer tokens_;
-  DocumentBuilder document_;
-  RtfFontTable fonts_;
-  RtfColourTable colours_;
-  int defaultFont_ = 0;
-  int namedPage_ = 0;    // by \ansicpg; 0: by no number
-  int generalPage_ = 0;  // by \ansi, \mac, \pc, \pca
-  std::unordered_map<std::uint64_t, Style> styles_;
-  Style* style_ = nullptr;  // the one used last, in styles_
-  std::uint64_t styleKey_ = 0;
+  RtfStyles styles_;
+  RtfText text_{styles_};
 
   RtfState state_;
   std::vector<RtfState> groups_;   // the states before the open groups
@@ -129,12 +86,7 @@ class Reader {
   std::vector<Field> fields_;
 
   int fallbackLeft_ = 0;
-  char32_t highSurrogate_ = 0;
-  std::string encoded_;  // bytes that may be halves of characters
-  bool cellEnded_ = false;
-  bool rowEnded_ = false;                   // by the last line end; a row is not the document's last line
-  std::optional<Alignment> cellAlignment_;  // of the row's first cell
-  Alignment textAlignment_ = Alignment::left;
+  SurrogateJoiner nameSurrogates_;  // in names of fonts
 };
 
 base::Document Reader::read() {
@@ -143,7 +95,7 @@ base::Document Reader::read() {
     if (token.kind == Kind::end) break;
     take(token);
   }
-  return finish();
+  return text_.finish(state_);
 }
 
 void Reader::take(const RtfToken& token) {
@@ -190,7 +142,7 @@ void Reader::passOver(const RtfToken& token) {
 }
 
 void Reader::openGroup() {
-  settleBytes();
+  text_.settleBytes(state_);
   if (groups_.size() == kDeepestGroup) {
     if (groupsBeyond_++ == 0) beyond_ = state_;
     return;
@@ -201,7 +153,7 @@ void Reader::openGroup() {
 }
 
 void Reader::closeGroup() {
-  settleBytes();
+  text_.settleBytes(state_);
   fallbackLeft_ = 0;
   if (groups_.size() <= 1) {
     over_ = true;
@@ -214,8 +166,8 @@ void Reader::closeGroup() {
   if (state_.opensField) closeField();
   const Destination closed = std::exchange(state_, groups_.back()).destination;
   groups_.pop_back();
-  if (closed == Destination::fontTable && state_.destination != closed) fonts_.endEntry();
-  if (closed == Destination::colourTable && state_.destination != closed) colours_.endTable();
+  if (closed == Destination::fontTable && state_.destination != closed) styles_.fonts.endEntry();
+  if (closed == Destination::colourTable && state_.destination != closed) styles_.colours.endTable();
   if (state_.restSkipped) skipGroup();
 }
 
@@ -225,7 +177,7 @@ void Reader::skipGroup() {
 }
 
 void Reader::takeWord(const RtfToken& token) {
-  settleBytes();
+  text_.settleBytes(state_);
   const Meaning* const meaning = meaningOf(token.text);
   const bool starred = std::exchange(state_.starred, false);
   const bool isDestination = meaning != nullptr && std::holds_alternative<Destination>(*meaning);
@@ -248,15 +200,15 @@ void Reader::takeSymbol(unsigned char symbol) {
       state_.starred = true;
       return;
     case '\n':
-      return apply(Flag::endParagraph, {});
+      return text_.endParagraph(state_);
     case '\t':
-      return put(U'\t');
+      return text_.put(U'\t', state_);
     case '~':
-      return put(0xA0);
+      return text_.put(0xA0, state_);
     case '_':
-      return put(0x2011);
+      return text_.put(0x2011, state_);
     case '-':
-      return put(0xAD);
+      return text_.put(0xAD, state_);
     default:
       return;
   }
@@ -265,16 +217,16 @@ void Reader::takeSymbol(unsigned char symbol) {
 void Reader::takeText(std::string_view text) {
   switch (state_.destination) {
     case Destination::text:
-      return putBytes(text);
+      return text_.putBytes(text, state_);
     case Destination::fontTable:
-      for (std::size_t end = text.find(';'); end != text.npos; end = text.find(';')) {
-        fonts_.addName(text.substr(0, end));
-        fonts_.endEntry();
+      for (std::size_t end = text.find(';'); end != std::string_view::npos; end = text.find(';')) {
+        styles_.fonts.addName(text.substr(0, end));
+        styles_.fonts.endEntry();
         text.remove_prefix(end + 1);
       }
-      return fonts_.addName(text);
+      return styles_.fonts.addName(text);
     case Destination::colourTable:
-      for (auto ends = std::count(text.begin(), text.end(), ';'); ends > 0; --ends) colours_.endEntry();
+      for (auto ends = std::count(text.begin(), text.end(), ';'); ends > 0; --ends) styles_.colours.endEntry();
       return;
     case Destination::fieldInstruction: {
       std::string& instruction = fields_.back().instruction;
@@ -294,26 +246,27 @@ void Reader::takeByte(unsigned char byte) {
 void Reader::openField() {
   if (groupsBeyond_ > 0 || state_.opensField) return;
   state_.opensField = true;
-  fields_.push_back({{}, document_.written()});
+  fields_.push_back({{}, text_.written()});
 }
 
 // A symbol field without a result stands for its symbol.
 void Reader::closeField() {
   const Field field = std::move(fields_.back());
   fields_.pop_back();
-  if (!isShown() || document_.written() > field.writtenBefore) return;
+  if (text_.written() > field.writtenBefore) return;
+  state_.destination = Destination::text;
   if (const std::optional<SymbolField> symbol = parseSymbolField(field.instruction)) putSymbol(*symbol);
 }
 
 void Reader::putSymbol(const SymbolField& symbol) {
-  if (!symbol.family.empty()) setFont(fonts_.symbolFont(symbol.family));
+  if (!symbol.family.empty()) setFont(styles_.fonts.symbolFont(symbol.family));
   if (symbol.points > 0)
     apply(Value::halfPoints, {.hasParameter = true, .parameter = std::min(symbol.points, 9999) * 2});
   if (symbol.isUnicode || symbol.character > 0xFF) {
-    put(unitOf(symbol.character));
+    text_.putUnit(symbol.character, state_);
   } else if (symbol.character > 0) {
     takeByte(static_cast<unsigned char>(symbol.character));
-    settleBytes();
+    text_.settleBytes(state_);
   }
 }
 
@@ -336,10 +289,10 @@ void Reader::apply(Destination destination, const RtfToken& /*token*/) {
       if (fields_.empty()) return skipGroup();
       break;
     case Destination::colourTable:
-      colours_.clear();
+      styles_.colours.clear();
       [[fallthrough]];
     case Destination::fontTable:
-      forgetStyles();
+      styles_.forget();
       break;
     case Destination::text:
       break;
@@ -357,14 +310,13 @@ void Reader::skipAttachment() {
 void Reader::apply(Flag flag, const RtfToken& /*token*/) {
   switch (flag) {
     case Flag::endParagraph:
-      return endParagraph();
+      return text_.endParagraph(state_);
     case Flag::breakPage:
-      if (!document_.atParagraphStart() || cellEnded_) endParagraph();
-      return;
+      return text_.breakPage(state_);
     case Flag::endCell:
-      return endCell();
+      return text_.endCell(state_);
     case Flag::endRow:
-      return endRow();
+      return text_.endRow(state_);
     case Flag::resetCharacters:
       state_.characters = {};
       state_.hidden = state_.deleted = false;
@@ -389,21 +341,17 @@ void Reader::apply(Flag flag, const RtfToken& /*token*/) {
       state_.characters.script = Script::normal;
       return;
     case Flag::pageAnsi:
-      generalPage_ = 1252;
-      return forgetStyles();
+      return styles_.setGeneralPage(1252);
     case Flag::pageMac:
-      generalPage_ = kMacRoman;
-      return forgetStyles();
+      return styles_.setGeneralPage(kMacRoman);
     case Flag::pagePc:
-      generalPage_ = 437;
-      return forgetStyles();
+      return styles_.setGeneralPage(437);
     case Flag::pagePcMultilingual:
-      generalPage_ = 850;
-      return forgetStyles();
+      return styles_.setGeneralPage(850);
   }
 }
 
-void Reader::apply(Symbol symbol, const RtfToken& /*token*/) { put(symbol.character); }
+void Reader::apply(Symbol symbol, const RtfToken& /*token*/) { text_.put(symbol.character, state_); }
 
 void Reader::apply(Toggle toggle, const RtfToken& token) {
   const bool on = token.parameter != 0;
@@ -467,178 +415,34 @@ void Reader::apply(Value value, const RtfToken& token) {
     case Value::unicode:
       return putUnit(number);
     case Value::defaultFont:
-      defaultFont_ = number;
-      return forgetStyles();
+      return styles_.setDefaultFont(number);
     case Value::documentPage:
-      namedPage_ = codePage(number).number;
-      return forgetStyles();
+      return styles_.setNamedPage(number);
     case Value::fontCharset:
-      return fonts_.setCharset(number);
+      return styles_.fonts.setCharset(number);
     case Value::fontPage:
-      return fonts_.setPage(number);
+      return styles_.fonts.setPage(number);
     case Value::red:
-      return colours_.setPart(16, number);
+      return styles_.colours.setPart(16, number);
     case Value::green:
-      return colours_.setPart(8, number);
+      return styles_.colours.setPart(8, number);
     case Value::blue:
-      return colours_.setPart(0, number);
+      return styles_.colours.setPart(0, number);
     default:
       return;
   }
 }
 
 void Reader::setFont(int number) {
-  if (state_.destination == Destination::fontTable) return fonts_.beginEntry(number);
+  if (state_.destination == Destination::fontTable) return styles_.fonts.beginEntry(number);
   const bool known = number >= 0 && number <= RtfFontTable::kLastNumber;
   state_.characters.font = known ? static_cast<std::uint16_t>(number) : RtfCharacters::kDefaultFont;
 }
 
 void Reader::putUnit(int number) {
   fallbackLeft_ = state_.fallbackLength;
-  const bool inName = state_.destination == Destination::fontTable;
-  if (!inName && !isShown()) return;
-  char32_t unit = unitOf(number);
-  if (isLowSurrogate(unit) && highSurrogate_ != 0) {
-    unit = 0x10000 + ((std::exchange(highSurrogate_, 0) - 0xD800) << 10U) + (unit - 0xDC00);
-  }
-  if (inName) highSurrogate_ = 0;
-  settle();
-  if (isHighSurrogate(unit)) {
-    highSurrogate_ = unit;
-  } else {
-    const char32_t character = isLowSurrogate(unit) ? kReplacement : unit;
-    inName ? fonts_.addName(character) : put(character);
-  }
-}
-
-void Reader::put(char32_t character) {
-  settleBytes();
-  if (!isShown()) return;
-  if (character == 0x2029) return endParagraph();
-  if (!base::isTextCharacter(character) || (character < 0x20 && character != U'\t')) return;
-  std::string text;
-  base::appendCodePoint(text, character);
-  append(text);
-}
-
-// Printable ASCII speaks for itself in every page but that of symbols, unless it may be the second half of a character.
-void Reader::putBytes(std::string_view bytes) {
-  if (!isShown()) return;
-  const CodePage& encoding = page();
-  const auto first = static_cast<unsigned char>(bytes.empty() ? 0 : bytes.front());
-  const bool printable = (first >= 0x20 && first < 0x80) || first == '\t';
-  const bool inHalves = encoding.kind == CodePage::Kind::doubleByte || encoding.kind == CodePage::Kind::utf8;
-  if (inHalves && (!printable || !encoded_.empty())) {
-    encoded_ += bytes;
-  } else if (printable && encoding.kind != CodePage::Kind::symbol) {
-    append(bytes);
-  } else {
-    for (const char byte : bytes) put(characterOf(encoding, static_cast<unsigned char>(byte)));
-  }
-}
-
-void Reader::append(std::string_view text) {
-  settle();
-  document_.append(text, format());
-  textAlignment_ = state_.alignment;
-}
-
-// Decodes the bytes that were waiting for their second halves.
-void Reader::settleBytes() {
-  if (encoded_.empty()) return;
-  std::string text;
-  appendDecoded(text, page(), std::exchange(encoded_, {}));
-  for (std::string_view rest = text; !rest.empty();) put(base::takeCodePoint(rest));
-}
-
-// Writes what was waiting for what follows: the tab behind a cell, half of a pair that has no other half.
-void Reader::settle() {
-  if (std::exchange(highSurrogate_, 0) != 0) put(kReplacement);
-  if (std::exchange(cellEnded_, false)) document_.append("\t", format());
-}
-
-void Reader::endParagraph() {
-  if (!isText()) return;
-  settle();
-  document_.endParagraph(format(), state_.alignment);
-  cellAlignment_.reset();
-  rowEnded_ = false;
-}
-
-// The tab waits, for the last cell of a row has none behind it. A row is aligned as its first cell is.
-void Reader::endCell() {
-  if (!isText()) return;
-  settle();
-  if (!cellAlignment_) cellAlignment_ = state_.alignment;
-  cellEnded_ = true;
-}
-
-void Reader::endRow() {
-  if (!isText()) return;
-  const bool hasCells = std::exchange(cellEnded_, false);
-  settle();
-  if (hasCells || !document_.atParagraphStart()) {
-    document_.endParagraph(format(), cellAlignment_.value_or(state_.alignment));
-    rowEnded_ = true;
-  }
-  cellAlignment_.reset();
-}
-
-base::Document Reader::finish() {
-  settleBytes();
-  cellEnded_ = false;
-  settle();
-  if (!document_.atParagraphStart()) {
-    document_.endParagraph(document_.lastFormat(), textAlignment_);
-  } else if (!document_.hasParagraphs() || rowEnded_) {
-    document_.endParagraph(format(), state_.alignment);
-  }
-  return document_.take();
-}
-
-Style& Reader::style() {
-  const std::uint64_t key = state_.characters.key();
-  if (style_ != nullptr && key == styleKey_) return *style_;
-  if (styles_.size() >= kMostCachedFormats) styles_.clear();
-  const auto [found, isNew] = styles_.try_emplace(key);
-  if (isNew) found->second.page = &codePage(font().page != 0 ? font().page : documentPage());
-  style_ = &found->second;
-  styleKey_ = key;
-  return *style_;
-}
-
-std::uint32_t Reader::format() {
-  Style& present = style();
-  if (!present.format) present.format = document_.indexOf(characterFormat());
-  return *present.format;
-}
-
-base::CharFormat Reader::characterFormat() const {
-  const RtfCharacters& characters = state_.characters;
-  base::CharFormat format;
-  if (!font().family.empty()) format.family = font().family;
-  format.points = characters.halfPoints / 2.0;
-  format.bold = characters.bold;
-  format.italic = characters.italic;
-  format.underline = characters.underline;
-  format.strikeOut = characters.strikeOut || characters.doubleStrikeOut;
-  format.script = characters.script;
-  format.colour = colours_.at(characters.colour);
-  return format;
-}
-
-// A font that the table does not name is the document's.
-const RtfFont& Reader::font() const {
-  const int number = state_.characters.font;
-  const bool isNamed = number != RtfCharacters::kDefaultFont && !fonts_.at(number).family.empty();
-  return fonts_.at(isNamed ? number : defaultFont_);
-}
-
-int Reader::documentPage() const { return namedPage_ != 0 ? namedPage_ : generalPage_; }
-
-void Reader::forgetStyles() {
-  styles_.clear();
-  style_ = nullptr;
+  if (state_.destination != Destination::fontTable) return text_.putUnit(number, state_);
+  if (const std::optional<char32_t> character = nameSurrogates_.join(number)) styles_.fonts.addName(*character);
 }
 
 }  // namespace

@@ -129,7 +129,7 @@ void Writer::header() {
   fontTable();
   colourTable();
   // Without this group some word processors change runs of blanks.
-  put("{\\*\\generator ");
+  put(R"({\*\generator )");
   put(base::versionLine());
   put(";}\\viewkind4");
   put(kLineEnd);

@@ -61,8 +61,9 @@ base::Paragraph paragraph(std::string_view line) {
 }  // namespace
 
 std::string decodedText(std::string_view bytes) {
-  if (bytes.starts_with(kLittleEndianMark)) return fromUtf16(bytes.substr(kLittleEndianMark.size()), false);
-  if (bytes.starts_with(kBigEndianMark)) return fromUtf16(bytes.substr(kBigEndianMark.size()), true);
+  if (bytes.starts_with(kLittleEndianMark))
+    return fromUtf16(bytes.substr(kLittleEndianMark.size()), /*bigEndian=*/false);
+  if (bytes.starts_with(kBigEndianMark)) return fromUtf16(bytes.substr(kBigEndianMark.size()), /*bigEndian=*/true);
   if (bytes.starts_with(base::kUtf8Mark)) return wellFormed(bytes.substr(base::kUtf8Mark.size()));
   return base::isUtf8File(bytes) ? std::string(bytes) : base::fromCodePage1252(bytes);
 }

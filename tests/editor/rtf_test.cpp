@@ -96,6 +96,7 @@ TEST(RtfReader, ReadsEveryCharacterAndNoMore) {
           "d\\cell\\nestcell\\nestrow{\\nonesttables\\par}e\\par",
           "a\tb|\tc|d\t|e|"},
          {"a\\cell\\row}", "a||"},
+         {"{\\field\\fldinst SYMBOL 65}b", "Ab|"},
          {"a\\page b\\par\\sect c\\column}", "a|b|c|"},
          {"a\x01\\u1?\\'00\\u65532?\\u8233?b} trailing {garbage", "a|b|"},
          {"{{a}b", "ab|"},
