@@ -61,7 +61,8 @@ class Writer {
   void colourTable();
   void paragraph(const base::Paragraph& paragraph);
   void align(Alignment alignment);
-  void format(std::uint32_t index);
+  void endParagraph(Numbers numbers);
+  void format(const Numbers& next);
   void text(std::string_view text);
   void character(char32_t character);
   void nameCharacter(char32_t character);
@@ -167,12 +168,19 @@ void Writer::paragraph(const base::Paragraph& paragraph) {
   align(paragraph.alignment);
   std::string_view rest = paragraph.text;
   for (const base::Run& run : paragraph.runs) {
-    format(run.format);
+    format(formats_.at(run.format));
     text(rest.substr(0, run.size));
     rest.remove_prefix(run.size);
   }
-  format(paragraph.endFormat);
-  put("\\par");
+  endParagraph(formats_.at(paragraph.endFormat));
+}
+
+// Word processors hold back what follows \super and \sub until these end; the end of a paragraph would come too late
+// and lose its alignment. Raised and lowered it comes in time.
+void Writer::endParagraph(Numbers numbers) {
+  const Script script = std::exchange(numbers.script, Script::normal);
+  format(numbers);
+  put(script == Script::normal ? "\\par" : script == Script::superscript ? "\\up6\\par\\up0" : "\\dn6\\par\\dn0");
   put(kLineEnd);
 }
 
@@ -184,10 +192,10 @@ void Writer::align(Alignment alignment) {
 }
 
 // Writes what differs from the present format; all of it at the start.
-void Writer::format(std::uint32_t index) {
-  const Numbers& next = formats_.at(index);
+void Writer::format(const Numbers& next) {
   if (present_ == next) return;
   const Numbers before = present_.value_or(Numbers{.font = -1});
+  if (next.script != before.script && before.script != Script::normal) put("\\nosupersub");
   if (next.font != before.font) put("\\f", next.font);
   if (next.halfPoints != before.halfPoints) put("\\fs", next.halfPoints);
   if (next.colour != before.colour) put("\\cf", next.colour);
@@ -195,9 +203,8 @@ void Writer::format(std::uint32_t index) {
   toggle(before.italic, next.italic, "\\i", "\\i0");
   toggle(before.underline, next.underline, "\\ul", "\\ulnone");
   toggle(before.strikeOut, next.strikeOut, "\\strike", "\\strike0");
-  if (next.script != before.script) {
-    put(next.script == Script::superscript ? "\\super" : next.script == Script::subscript ? "\\sub" : "\\nosupersub");
-  }
+  if (next.script == Script::superscript && next.script != before.script) put("\\super");
+  if (next.script == Script::subscript && next.script != before.script) put("\\sub");
   put(" ");
   present_ = next;
 }
