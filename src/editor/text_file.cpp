@@ -43,6 +43,8 @@ std::string wellFormed(std::string_view text) {
 }
 
 std::string textCharacters(std::string_view line) {
+  constexpr std::string_view kSuspects("\0\xEF", 2);  // NUL, and what all others begin with
+  if (line.find_first_of(kSuspects) == std::string_view::npos) return std::string(line);
   std::string text;
   while (!line.empty()) {
     const char32_t character = base::takeCodePoint(line);
