@@ -1,7 +1,6 @@
 // The decoding of plain-text files, and their cutting into paragraphs.
 #include "editor/text_file.h"
 
-#include <algorithm>
 #include <cstddef>
 
 #include "base/code_page.h"
@@ -42,22 +41,15 @@ std::string wellFormed(std::string_view text) {
   return whole;
 }
 
-std::string textCharacters(std::string_view line) {
+std::string textCharacters(std::string text) {
   constexpr std::string_view kSuspects("\0\xEF", 2);  // NUL, and what all others begin with
-  if (line.find_first_of(kSuspects) == std::string_view::npos) return std::string(line);
-  std::string text;
-  while (!line.empty()) {
-    const char32_t character = base::takeCodePoint(line);
-    if (base::isTextCharacter(character)) base::appendCodePoint(text, character);
+  if (text.find_first_of(kSuspects) == std::string::npos) return text;
+  std::string characters;
+  for (std::string_view rest = text; !rest.empty();) {
+    const char32_t character = base::takeCodePoint(rest);
+    if (base::isTextCharacter(character)) base::appendCodePoint(characters, character);
   }
-  return text;
-}
-
-base::Paragraph paragraph(std::string_view line) {
-  base::Paragraph result;
-  result.text = textCharacters(line);
-  if (!result.text.empty()) result.runs = {{static_cast<std::uint32_t>(result.text.size()), 0}};
-  return result;
+  return characters;
 }
 
 }  // namespace
@@ -71,15 +63,7 @@ std::string decodedText(std::string_view bytes) {
 }
 
 base::Document readPlainText(std::string_view bytes) {
-  const std::string text = base::withWindowsLineEnds(decodedText(bytes));
-  base::Document document;
-  document.paragraphs.clear();
-  for (std::size_t start = 0; start <= text.size();) {
-    const std::size_t end = std::min(text.find(base::kLineBreak, start), text.size());
-    document.paragraphs.push_back(paragraph(std::string_view(text).substr(start, end - start)));
-    start = end + base::kLineBreak.size();
-  }
-  return document;
+  return base::plainDocument(textCharacters(decodedText(bytes)), base::CharFormat{});
 }
 
 }  // namespace editor

@@ -22,9 +22,9 @@ using namespace std::string_literals;
 std::string marksOf(const base::CharFormat& format) {
   std::string marks = (format.family == "Arial" ? "" : format.family) + (format.bold ? "b" : "") +
                       (format.italic ? "i" : "") + (format.underline ? "u" : "") + (format.strikeOut ? "s" : "");
-  if (format.points != 12) marks += std::to_string(static_cast<int>(format.points * 10));
-  if (format.script != base::Script::normal) marks += format.script == base::Script::superscript ? "+" : "-";
-  if (format.colour) marks += "#" + std::to_string(*format.colour);
+  if (format.points != 12) marks.append(std::to_string(static_cast<int>(format.points * 10)));
+  if (format.script != base::Script::normal) marks += format.script == base::Script::superscript ? '+' : '-';
+  if (format.colour) marks.append(1, '#').append(std::to_string(*format.colour));
   return marks;
 }
 
@@ -117,6 +117,67 @@ TEST(RtfReader, ReadsFormats) {
   EXPECT_EQ(readAs("\xEF\xBB\xBF \r\n{\\rtf\\mac\\deff5{\\fonttbl{\\f5\\fcharset77 Monaco;}}\\'8a"), "<Monaco>ä|");
 }
 
+// Small documents in the manner of the programs that people have.
+TEST(RtfReader, ReadsWhatProgramsWrite) {
+  const std::vector<Row> rows = {
+      // Word: every run in a group, tables of styles, complex scripts beside, a note, a picture twice.
+      {R"({\rtf1\adeflang1025\ansi\ansicpg1252\uc1\adeff31507\deff0{\fonttbl{\f0\froman\fcharset0\fprq2{\*\panose 02020603}Arial;}
+{\f31502\fswiss\fcharset0 Cambria;}}{\colortbl;\red0\green0\blue0;}{\stylesheet{\ql \fs22 \snext0 Standard;}{\*\cs10 \additive Absatz;}}
+{\info{\title T}{\author A}{\creatim\yr2020}}\paperw11906{\*\pnseclvl1\pnucrm{\pntxta .}}{\header \pard K\par}
+\pard\plain \ltrpar\qc \rtlch\fcs1 \af0\afs22 \ltrch\fcs0 \fs22\lang1031 {\rtlch\fcs1 \ab\af0 \ltrch\fcs0 \b\insrsid1 Schi
+ld}{\rtlch\fcs1 \af0 \ltrch\fcs0 \f31502\cf1  1\super{\*\bkmkstart b}{\footnote \pard {\super\chftn} N}}{\*\shppict{\pict 0a}}{\nonshppict{\pict 0a}}{
+\par }}\par)",
+       "^<b110>Schild<Cambria110#0> 1|"},
+      // LibreOffice: a line end before the text, fonts by kind of letter, the end of the paragraph in a group.
+      {R"({\rtf1\ansi\deff3\adeflang1025
+{\fonttbl{\f0 Times;}{\f3\froman\fprq2\fcharset0 Arial{\*\falt Helvetica};}}{\*\generator LibreOffice/7.4;}{\*\pgdsctbl
+{\pgdsc0 Standard;}}\pard\plain \s0\ql\kerning1\dbch\af5\loch\f3\fs24{\hich\af3\loch
+Gr\u246\'f6\u223\'dfe}{\b\loch
+ 50 mm}
+{\par}\pard\plain {\listtext\pard\plain 1.\tab}\ilvl0 \fi-360{\uc0 A\u8364}\u-10179\'3f\u-8704\'3f
+\par })",
+       "Größe<b> 50 mm|A€😀|"},
+      // Cocoa: one group for all fonts, paragraphs that end with the line, no end of the last one, an attachment.
+      {R"({\rtf1\ansi\ansicpg1252\cocoartf2580
+{\fonttbl\f0\fswiss\fcharset0 Arial;\f1\fswiss\fcharset0 Arial-BoldMT;}
+{\colortbl;\red255\green255\blue255;}
+{\*\expandedcolortbl;;}
+\pard\tx566\qr\partightenfactor0
+
+\f0\fs24 \cf0 Eins \uc0\u8364 5{{\NeXTGraphic Bild.tiff \width640}\'ac}\
+\
+
+\f1\b zwei})",
+       ">Eins €5|>|><Arial-BoldMTb>zwei|"},
+      // Rich edit: links in doubled braces, labels of lists, letters of other pages by their font, a NUL at the end.
+      {R"({\rtf1\ansi\ansicpg1252\deff0\nouicompat{\fonttbl{\f0\fnil Arial;}{\f1\fnil\fcharset238 Arial CE;}{\f2\fnil\fcharset2 Symbol;}}
+{\*\generator Riched20 10.0.19041}\viewkind4\uc1
+\pard\sa200\f0\fs24\lang7 Pre\f1\'b9\f0  {{\field{\*\fldinst{HYPERLINK http://a }}{\fldrslt{http://a\ul0\cf0}}}}\par
+\pard{\pntext\f2\'B7\tab}{\*\pn\pnlvlblt\pnf2{\pntxtb\'B7}}\fi-360 A\par
+}
+)"s + '\0',
+       "Preą http://a|A|"},
+      // AbiWord: marks of its own around cells, the row's end outside the cells.
+      {R"({\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}{\stylesheet{\s28 Normal;}}\sectd{\*\abitableprops t}{\*\abicellprops x}{
+\trowd \itap1\cellx4698
+\pard\plain\intbl{\s28{\*\listtag0}\abinodiroverride\ltrch a}\cell{\*\abiendcell}
+\pard\plain\intbl{b}\cell{\*\abiendcell}\row}{\*\abiendtable}
+\pard{c\par}})",
+       "a\tb|c|"},
+      // pandoc: no tables at all, every paragraph a group.
+      {R"({\rtf1\ansi
+{\pard \ql \f0 \sa180 \li0 \fi0 A {\i b}\u8211?{\strike c}\line d\par}
+{\pard \ql \f0 \sa0 \li360 \fi-360 \bullet \tx360\tab e\sa180\par}
+})",
+       "A <i>b<>–<s>c<>/d|•\te|"},
+      // Google Docs: no fallbacks, everything said of each run.
+      {R"({\rtf1\ansi\ansicpg1252\uc0\deff0{\fonttbl{\f0\fcharset0 Times;}{\f2\fswiss\fcharset0 Arial;}}{\colortbl;\red67\green67\blue67;}
+\brdrt\brdrnil\pard\plain\ql{\rtlch\af2\afs22\ltrch\b0\loch\af2\dbch\af2\hich\f2\fs24\strike0\ulnone\cf1 x \u8211 y}{\f2\cf1\par}})",
+       "<#4408131>x –y|"},
+  };
+  for (const Row& row : rows) EXPECT_EQ(readAs(row.body), row.content) << row.body;
+}
+
 TEST(RtfReader, SurvivesWhatNobodyShouldWrite) {
   const std::string nested(100'000, '{');
   EXPECT_EQ(readAs(kHeader + nested + "\\b a" + std::string(100'000, '}') + "b{c}"), "<b>a<>bc|");
@@ -125,8 +186,9 @@ TEST(RtfReader, SurvivesWhatNobodyShouldWrite) {
   EXPECT_EQ(readAs(kHeader + "a" + groups + "{\\pict 00}b"), "a<b>b|");
   EXPECT_EQ(readAs(kHeader + "a\\bin2147483647 b"), "a|");
   EXPECT_EQ(readAs(kHeader + "{\\uc99999\\u8364 b}c}}d"), "€c|");
-  EXPECT_EQ(readAs("{\\rtf1" + std::string(10'000'000, '9')), "|");
-  EXPECT_EQ(readAs("{\\rtf1 " + std::string(10'000'000, '9')).size(), 10'000'001U);
+  const std::string digits(10'000'000, '9');
+  EXPECT_EQ(readAs(std::string("{\\rtf1").append(digits)), "|");
+  EXPECT_EQ(readAs(std::string("{\\rtf1 ").append(digits)).size(), 10'000'001U);
   const std::string whole =
       kHeader + "\\f2\\'83A{\\field{\\*\\fldinst SYMBOL 9}{\\fldrslt}}\\u-10179?\\u-8704?\\cell\\row\\bin3 x}";
   for (std::size_t size = 0; size < whole.size(); ++size) {
