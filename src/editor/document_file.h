@@ -7,7 +7,9 @@
 
 namespace editor {
 
-/// The document that the bytes of an RTF or a plain-text file hold. Every content can be read as one of them.
+/// The document that the bytes of an RTF or a plain-text file hold; every content can be read as one of them. A text in
+/// any encoding (base/encoding.h) becomes a paragraph for each line, in the format of a new document, without the
+/// characters that stand for no text.
 base::Document readDocumentFile(std::string_view bytes);
 
 }  // namespace editor
