@@ -15,7 +15,7 @@
 namespace {
 
 constexpr const char* kHelp =
-    R"(Aufruf: tessik [--daten DIR]               öffnet das Programm
+    R"(Aufruf: tessik [--daten DIR] [DATEI]       öffnet das Programm, mit dem Dokument DATEI
         tessik kalkuliere [Optionen]        rechnet ohne Bildschirm (tessik kalkuliere --help)
 
   --daten DIR            Verzeichnis mit den Datendateien Ostrowerk.ini, Tessik.ini und Tessik.pdb

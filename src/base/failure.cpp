@@ -33,6 +33,7 @@ constexpr std::array kErrors = {
     Entry{ErrorNumber::diskNotReady, "Der Datenträger ist nicht bereit."},
     Entry{ErrorNumber::pathFileAccess, "Auf die Datei kann nicht zugegriffen werden."},
     Entry{ErrorNumber::pathNotFound, "Das Verzeichnis wurde nicht gefunden."},
+    Entry{ErrorNumber::badFormat, "Das ist kein Text und kein RTF-Dokument."},
     Entry{ErrorNumber::cancelled, "Der Vorgang wurde abgebrochen"},
 };
 

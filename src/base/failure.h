@@ -28,6 +28,7 @@ enum class ErrorNumber : int {
   permissionDenied = 70,
   pathFileAccess = 75,
   pathNotFound = 76,
+  badFormat = 321,
   cancelled = 32755,
 };
 

@@ -23,6 +23,9 @@ void Platform::hide(Window& /*window*/) { notAvailable(); }
 void Platform::refresh() { notAvailable(); }
 bool Platform::escapePressed() { notAvailable(); }
 void Platform::setHourglass(Hourglass /*hourglass*/) { notAvailable(); }
+bool Platform::runAside(const std::function<void()>& /*work*/) { notAvailable(); }
+std::optional<bool> Platform::asideSucceeded() { notAvailable(); }
+void Platform::awaitAside() { notAvailable(); }
 void Platform::beep() { notAvailable(); }
 DateTime Platform::now() const { notAvailable(); }
 int Platform::screenWidth() const { notAvailable(); }

@@ -4,6 +4,7 @@
 // does not have fails as "not available here" (error 68).
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -86,6 +87,14 @@ class Platform {
   virtual bool escapePressed();
   /// While it shows, what the person types or clicks is dropped.
   virtual void setHourglass(Hourglass hourglass);
+
+  /// Runs `work` beside the program, on a copy of everything as it is at this moment: what it does to memory does not
+  /// come back, and nobody waits for it. One at a time: false when the one before has not ended.
+  virtual bool runAside(const std::function<void()>& work);
+  /// How the last one ended; nothing while it runs.
+  [[nodiscard]] virtual std::optional<bool> asideSucceeded();
+  /// Waits for it.
+  virtual void awaitAside();
 
   /// The sound of a refused action.
   virtual void beep();

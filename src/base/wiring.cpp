@@ -22,6 +22,11 @@ bool Wiring::fireKey(EventSource source, char32_t key) const {
   return found != keys_.end() && found->second(key);
 }
 
+void Wiring::fireFile(const Window& window, const std::string& path) const {
+  const auto found = files_.find(&window);
+  if (found != files_.end()) found->second(path);
+}
+
 std::string Wiring::tipOf(const ListBox& list, int row) const {
   const auto found = rowTips_.find(&list);
   return found == rowTips_.end() ? std::string() : found->second(row);

@@ -55,6 +55,7 @@ class Wiring {
   using Procedure = std::function<void()>;
   /// Takes the character that a key types (backspace 8, Enter 13, Escape 27); true when it has used the key.
   using KeyProcedure = std::function<bool(char32_t)>;
+  using FileProcedure = std::function<void(const std::string& path)>;
   /// The tool tip of a row of a list.
   using RowTip = std::function<std::string(int row)>;
 
@@ -62,6 +63,8 @@ class Wiring {
   void on(EventSource source, Event event, Procedure procedure);
   /// Every key that comes to a window or control, before it is used otherwise.
   void onKey(EventSource source, KeyProcedure procedure);
+  /// Takes a file that is dropped onto a window.
+  void onFile(const Window& window, FileProcedure procedure) { files_[&window] = std::move(procedure); }
   void rowTip(const ListBox& list, RowTip tip) { rowTips_[&list] = std::move(tip); }
   void filter(const TextBox& box, KeyFilter keyFilter) { filters_[&box] = keyFilter; }
   void filter(const ComboBox& box, KeyFilter keyFilter) { filters_[&box] = keyFilter; }
@@ -75,6 +78,8 @@ class Wiring {
   [[nodiscard]] bool handlesKeys(EventSource source) const { return keys_.contains(source.identity()); }
   /// Runs what is wired to keys; true when that has used this one.
   bool fireKey(EventSource source, char32_t key) const;
+  [[nodiscard]] bool takesFiles(const Window& window) const { return files_.contains(&window); }
+  void fireFile(const Window& window, const std::string& path) const;
   /// Empty where there is none.
   [[nodiscard]] std::string tipOf(const ListBox& list, int row) const;
 
@@ -91,6 +96,7 @@ class Wiring {
   std::map<const void*, KeyFilter> filters_;
   std::map<const void*, KeyProcedure> keys_;
   std::map<const void*, RowTip> rowTips_;
+  std::map<const void*, FileProcedure> files_;
 };
 
 }  // namespace base

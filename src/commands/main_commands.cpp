@@ -5,6 +5,7 @@
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
 #include "calc/running_sum.h"
+#include "commands/file_commands.h"
 #include "editor/character_format.h"
 #include "editor/editing.h"
 
@@ -181,6 +182,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireDocument(wiring, parts);
   wireFormat(wiring, parts);
   wireEditing(wiring, parts);
+  wireFiles(wiring, parts);
   wireProgram(wiring, parts);
   wireHeightAndQuantity(wiring, parts);
   wireAdjustmentLists(wiring, parts);

@@ -5,6 +5,7 @@
 #include "base/wiring.h"
 #include "calc/calc.h"
 #include "calc/picker.h"
+#include "editor/open_document.h"
 #include "errors/reporting.h"
 #include "frame/main_window.h"
 #include "settings/settings.h"
@@ -17,6 +18,7 @@ struct MainParts {
   settings::Settings& settings;
   settings::Paths& paths;
   frame::CalcResults& results;
+  editor::OpenDocument& document;
   calc::PickerWindow& picker;
   base::Platform& platform;
   errors::Reporter& reporter;

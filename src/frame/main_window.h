@@ -61,6 +61,12 @@ namespace frame {
   CONTROL(base::TextBox, txtAddPerHand)                                                        \
   CONTROL(base::Button, cmdAddPerHand)                                                         \
   /* the menus */                                                                              \
+  CONTROL(base::MenuEntry, mnuNeu)                                                             \
+  CONTROL(base::MenuEntry, mnuOpen)                                                            \
+  CONTROL(base::MenuEntry, mnuSave)                                                            \
+  CONTROL(base::Button, cmdNew)                                                                \
+  CONTROL(base::Button, cmdOpen)                                                               \
+  CONTROL(base::Button, cmdSave)                                                               \
   CONTROL(base::MenuEntry, mnuLastFile)                                                        \
   CONTROL(base::MenuEntry, mnuExit)                                                            \
   CONTROL(base::MenuEntry, mnuCut)                                                             \
@@ -73,7 +79,8 @@ namespace frame {
   CONTROL(base::Label, lblZeile)                 /* format at the caret, line and column */    \
   CONTROL(base::Label, lblZusatz)                /* the piece addition, while there is one */  \
   CONTROL(base::Label, lblHinweis)               /* what the program has to tell by the way */ \
-  CONTROL(base::Timer, tmrLoad)
+  CONTROL(base::Timer, tmrLoad)                                                                \
+  CONTROL(base::Timer, tmrSicherung)             /* looks whether the recovery copy is behind */
 // clang-format on
 
 /// The colours of the totals, which stand on black.

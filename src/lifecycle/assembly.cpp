@@ -7,6 +7,7 @@
 
 #include "lifecycle/shut_down.h"
 #include "lifecycle/start_up.h"
+#include "lifecycle/unsaved_work.h"
 
 namespace lifecycle {
 namespace {
@@ -16,6 +17,7 @@ void wire(Program& program) {
   commands::wireMainWindow(wiring, partsOf(program));
   calc::wirePicker(wiring, program.windows.picker, program.platform);
   wiring.on(program.windows.main.tmrLoad, base::Event::tick, [&program] { loadBehindScreen(program); });
+  wiring.on(program.windows.main.tmrSicherung, base::Event::tick, [&program] { keepRecoveryCopy(program); });
   wiring.on(program.windows.main, base::Event::closing, [&program] { unload(program); });
 }
 

@@ -18,6 +18,7 @@ commands::MainParts partsOf(Program& program) {
           .settings = program.settings,
           .paths = program.paths,
           .results = program.results,
+          .document = program.document,
           .picker = program.windows.picker,
           .platform = program.platform,
           .reporter = program.reporter};

@@ -6,6 +6,7 @@
 
 #include "base/wiring.h"
 #include "commands/main_commands.h"
+#include "editor/recovery.h"
 #include "errors/reporting.h"
 #include "lifecycle/program_directory.h"
 #include "lifecycle/windows.h"
@@ -24,6 +25,9 @@ struct Program {
   // Of the settings files, nothing of which is read at first; what was not read is not overwritten without a copy.
   settings::ReadReport readReport{.problems = {}, .generalIsWhole = false, .listsAreWhole = false};
   frame::CalcResults results = {};
+  editor::OpenDocument document = {};
+  editor::RecoveryCopy recovery{paths.programDirectory};
+  std::string fileToOpen;  // once the program stands, as the command line asks
   Windows windows = {};
   base::Wiring wiring = {};
 

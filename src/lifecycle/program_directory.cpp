@@ -40,7 +40,9 @@ DirectoryCandidates directoryCandidates(std::optional<std::string> given) {
 }
 
 ProgramDirectory programDirectory(const DirectoryCandidates& candidates) {
-  if (candidates.given) return {.path = *candidates.given};
+  std::error_code ignored;
+  // The working directory moves with the file dialogs.
+  if (candidates.given) return {.path = std::filesystem::absolute(*candidates.given, ignored).string()};
   const settings::Paths portable{candidates.programFileDirectory};
   const bool isKnown = !candidates.programFileDirectory.empty();
   if (isKnown && base::FileExists(portable.generalSettings())) return {.path = candidates.programFileDirectory};

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "lifecycle/unsaved_work.h"
 #include "settings/settings_files.h"
 #include "settings/user_keys.h"
 
@@ -27,6 +28,7 @@ void unload(Program& program) {
     errors::reporting(program.reporter, kUnloadTag,
                       [&] { settings::saveSettings(program.paths, program.settings, file, program.readReport); });
   }
+  errors::reporting(program.reporter, kUnloadTag, [&] { program.windows.main.keepsOpen = !mayLeave(program); });
 }
 
 }  // namespace lifecycle

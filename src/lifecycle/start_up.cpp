@@ -12,8 +12,10 @@
 #include "calc/adjustments.h"
 #include "calc/calc.h"
 #include "calc/price_database.h"
+#include "commands/file_commands.h"
 #include "editor/character_format.h"
 #include "lifecycle/prepare_settings.h"
+#include "lifecycle/unsaved_work.h"
 #include "settings/settings_files.h"
 
 namespace lifecycle {
@@ -43,9 +45,8 @@ void fillFixedLists(Program& program, const commands::MainParts& parts) {
   parts.window.rtfText.setFormat(editor::startFormat());
   window.cboFontSize.clear();
   for (const int size : kFontSizes) window.cboFontSize.items.add(std::to_string(size));
-  window.caption = "Tessik v" + std::string(base::kVersion) + " ";
+  window.caption = base::windowCaption();
   window.mnuLastFile.text = base::replaceAll(program.settings.user.lastFile, "&", "&&");
-  window.mnuLastFile.enabled = false;  // until documents can be opened
   window.mnuLastFile.visible = !program.settings.user.lastFile.empty();
   calc::showStatus(commands::calcParts(parts));
 }
@@ -155,6 +156,9 @@ void loadBehindScreen(Program& program) {
   parts.platform.hide(program.windows.loading);
   if (program.settings.user.windowState == "2") program.windows.main.state = base::WindowState::maximised;
   parts.platform.show(program.windows.main);
+  editor::markSaved(program.document, program.windows.main.rtfText);
+  errors::reporting(parts.reporter, kTimerTag, [&] { offerRecovered(program); });
+  if (!program.fileToOpen.empty()) commands::openFile(parts, program.fileToOpen);
 }
 
 }  // namespace lifecycle

@@ -3,11 +3,13 @@
 
 #include <QApplication>
 #include <QSessionManager>
+#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "lifecycle/program_directory.h"
 #include "ui/appearance.h"
@@ -23,17 +25,21 @@ constexpr int kExitWrongArgument = 2;
 struct Options {
   std::optional<std::string> programDirectory;
   bool exitAfterStartUp = false;
+  std::string file;  // to be opened
 };
 
 // Nothing when an argument is wrong, which has been told then.
 std::optional<Options> parse(std::span<const char* const> arguments) {
   Options options;
+  std::error_code ignored;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string_view argument = arguments[i];
     if (argument == "--daten" && i + 1 < arguments.size()) {
       options.programDirectory = arguments[++i];
     } else if (argument == "--exit-after-startup") {
       options.exitAfterStartUp = true;
+    } else if (!argument.starts_with('-') && options.file.empty()) {
+      options.file = std::filesystem::absolute(argument, ignored).string();
     } else {
       std::cerr << "tessik: Unbekanntes oder unvollständiges Argument \"" << argument
                 << "\" (tessik --help zeigt die Optionen)\n";
@@ -56,6 +62,7 @@ void endWithTheSession(Desktop& desktop) {
 
 int run(const Options& options, const lifecycle::ProgramDirectory& directory) {
   Desktop desktop(directory);
+  desktop.program().fileToOpen = options.file;
   desktop.whenEnded([] { QCoreApplication::exit(0); });
   if (options.exitAfterStartUp) desktop.mainForm().whenPainted([] { QCoreApplication::exit(0); });
   const EndSignals endSignals([&desktop] { desktop.end(Desktop::Manner::quietly); });

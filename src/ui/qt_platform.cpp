@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDateTime>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -71,8 +73,10 @@ QString nameFilters(const std::string& filter) {
   return result.join(QStringLiteral(";;"));
 }
 
+// The next dialog starts where this one ended.
 std::string chosen(const QString& path) {
   if (path.isEmpty()) throw base::Failure(base::ErrorNumber::cancelled);
+  QDir::setCurrent(QFileInfo(path).absolutePath());
   return toUtf8(path);
 }
 
@@ -80,6 +84,7 @@ std::string chosen(const QString& path) {
 
 base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
   const Gate::ModalWait wait(gate_);
+  setProgramIcon();
   QMessageBox box(icon(message.icon), toQString(message.title),
                   toQString(message.text).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n'),
                   buttons(message.buttons), QApplication::activeWindow());
@@ -160,6 +165,8 @@ void QtPlatform::setClipboardText(std::string_view text) { QGuiApplication::clip
 std::optional<std::string> QtPlatform::userSetting(std::string_view key) const { return storedUserSetting(key); }
 
 void QtPlatform::saveUserSettings(const std::vector<base::UserSetting>& settings) { storeUserSettings(settings); }
+
+bool QtPlatform::runAside(const std::function<void()>& work) { return aside_.run(work); }
 
 void QtPlatform::beep() { bell_ ? bell_() : QApplication::beep(); }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/platform.h"
+#include "ui/aside.h"
 #include "ui/binding/gate.h"
 #include "ui/binding/input_filter.h"
 #include "ui/binding/sync.h"
@@ -38,6 +39,9 @@ class QtPlatform : public base::Platform {
   void refresh() override;
   bool escapePressed() override;
   void setHourglass(base::Hourglass hourglass) override;
+  bool runAside(const std::function<void()>& work) override;
+  std::optional<bool> asideSucceeded() override { return aside_.succeeded(); }
+  void awaitAside() override { aside_.await(); }
   void beep() override;
   [[nodiscard]] base::DateTime now() const override;
   [[nodiscard]] int screenWidth() const override;
@@ -57,6 +61,7 @@ class QtPlatform : public base::Platform {
   InputFilter& input_;
   ShownWindows& windows_;
   std::function<void()> bell_;
+  Aside aside_;
   bool hasHourglass_ = false;
   std::chrono::steady_clock::time_point lastRefresh_;
 };

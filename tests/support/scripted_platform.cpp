@@ -19,6 +19,17 @@ void ScriptedPlatform::expectModal(std::string name, std::function<void(base::Wi
   expected_.push_back({.message = {}, .window = std::move(name), .whileOpen = std::move(whileOpen)});
 }
 
+void ScriptedPlatform::expectFileDialog(std::string filter, std::optional<std::string> chosen) {
+  expected_.push_back({.message = {}, .window = std::move(filter), .whileOpen = {}, .file = std::move(chosen)});
+}
+
+std::string ScriptedPlatform::answerOf(const std::string& filter) {
+  const Question question = next(filter);
+  EXPECT_EQ(question.window, filter);
+  if (!question.file) throw base::Failure(base::ErrorNumber::cancelled);
+  return *question.file;
+}
+
 ScriptedPlatform::Question ScriptedPlatform::next(const std::string& asked) {
   if (expected_.empty()) {
     ADD_FAILURE() << "not expected: " << asked;

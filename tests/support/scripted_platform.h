@@ -23,6 +23,8 @@ class ScriptedPlatform : public base::Platform {
 
   /// Expects this message next and gives `answer`.
   void expectMessage(base::Message message, base::MessageAnswer answer = base::MessageAnswer::ok);
+  /// Expects a file dialog with this filter next; nothing chosen is Cancel.
+  void expectFileDialog(std::string filter, std::optional<std::string> chosen);
   /// Expects the modal window `name` next; `whileOpen` acts as the person before it and must close it.
   void expectModal(std::string name, std::function<void(base::Window&)> whileOpen);
 
@@ -52,6 +54,11 @@ class ScriptedPlatform : public base::Platform {
   void refresh() override {
     if (onRefresh) onRefresh();
   }
+  bool runAside(const std::function<void()>& work) override { return work(), true; }
+  std::optional<bool> asideSucceeded() override { return true; }
+  void awaitAside() override {}
+  std::string askOpenFile(const base::FileQuestion& question) override { return answerOf(question.filter); }
+  std::string askSaveFile(const base::FileQuestion& question) override { return answerOf(question.filter); }
   bool escapePressed() override { return refresh(), escape; }
   void beep() override { ++beeps; }
   [[nodiscard]] base::DateTime now() const override { return moment; }
@@ -76,7 +83,9 @@ class ScriptedPlatform : public base::Platform {
     base::MessageAnswer answer = base::MessageAnswer::ok;
     std::string window;  // of a modal window, else empty
     std::function<void(base::Window&)> whileOpen;
+    std::optional<std::string> file = {};  // chosen in a file dialog
   };
+  std::string answerOf(const std::string& filter);
   /// The next expected question; fails the test and returns an empty one when none is.
   Question next(const std::string& asked);
 

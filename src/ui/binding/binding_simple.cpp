@@ -3,8 +3,12 @@
 #include "ui/binding/binding_simple.h"
 
 #include <QAction>
+#include <QDropEvent>
 #include <QEvent>
 #include <QMetaProperty>
+#include <QMimeData>
+#include <QTimer>
+#include <QUrl>
 #include <QVariant>
 #include <QWindow>
 
@@ -124,6 +128,7 @@ void TabsBinding::carryOwn() {
 WindowBinding::WindowBinding(base::Window& model, QWidget& form, const Context& context)
     : Binding(model, context), model_(model), form_(form), caption_(form, "windowTitle", asText) {
   form.installEventFilter(this);
+  form.setAcceptDrops(true);
 }
 
 void WindowBinding::carry() {
@@ -144,6 +149,9 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
       model_.state = stateOf(form_);
       state_.follow(model_.state);
       return false;
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+      return takesFile(static_cast<QDropEvent&>(*event));
     case QEvent::Close:
       if (mayClose(model_, context())) return false;
       event->ignore();
@@ -151,6 +159,24 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
     default:
       return Binding::eventFilter(watched, event);
   }
+}
+
+// A drop comes as an arrival first. What is no single file goes on to the widgets.
+bool WindowBinding::takesFile(QDropEvent& event) {
+  const QString file = droppedFile(*event.mimeData());
+  if (file.isEmpty() || !context().wiring.takesFiles(model_)) return false;
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
+  if (event.type() != QEvent::Drop) return true;
+  // The program that the file comes from waits for the end of the drop, not for our questions.
+  QTimer::singleShot(
+      0, this, [this, file] { context().gate.userEvent([&] { context().wiring.fireFile(model_, toUtf8(file)); }); });
+  return true;
+}
+
+QString droppedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  return urls.size() == 1 ? urls.first().toLocalFile() : QString();
 }
 
 bool mayClose(base::Window& window, const Context& context) {

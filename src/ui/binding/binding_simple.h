@@ -88,6 +88,9 @@ class PictureBinding : public BindingOf<base::Picture, QWidget> {
   void carryOwn() override {}
 };
 
+/// The file that is dragged, if it is one alone; else empty.
+QString droppedFile(const QMimeData& data);
+
 /// Runs what is wired to the closing of `window`; false when that or a running procedure refuses.
 bool mayClose(base::Window& window, const Context& context);
 
@@ -102,6 +105,7 @@ class WindowBinding : public Binding {
  private:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void carryFlags();
+  bool takesFile(QDropEvent& event);
 
   base::Window& model_;
   QWidget& form_;

@@ -1,0 +1,86 @@
+// The recovery copy.
+#include "editor/recovery.h"
+
+#include <unistd.h>
+
+#include <charconv>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "base/file_replacement.h"
+#include "base/files.h"
+#include "editor/document_file.h"
+#include "editor/rtf_writer.h"
+
+namespace editor {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kStem = "Wiederherstellung-";
+constexpr std::string_view kSuffix = ".rtf";
+
+// The process in the name of a copy; nothing for another file.
+std::optional<pid_t> processOf(std::string_view name) {
+  if (!name.starts_with(kStem) || !name.ends_with(kSuffix)) return std::nullopt;
+  name.remove_prefix(kStem.size());
+  name.remove_suffix(kSuffix.size());
+  pid_t process = 0;
+  const auto read = std::from_chars(name.data(), name.data() + name.size(), process);
+  const bool isWhole = read.ec == std::errc() && read.ptr == name.data() + name.size();
+  return isWhole && process > 0 ? std::optional(process) : std::nullopt;
+}
+
+fs::path programOf(const std::string& process) {
+  std::error_code ignored;
+  return fs::read_symlink("/proc/" + process + "/exe", ignored).filename();
+}
+
+// After a new start of the system the number may be another program's.
+bool isRunning(pid_t process) { return programOf(std::to_string(process)) == programOf("self"); }
+
+}  // namespace
+
+RecoveryCopy::RecoveryCopy(std::string directory)
+    : directory_(std::move(directory)),
+      path_(base::joinPath(directory_, std::string(kStem) + std::to_string(::getpid()).append(kSuffix))) {}
+
+void RecoveryCopy::write(const base::RichText& text) const { base::replaceFile(path_, writeRtf(text.document())); }
+
+// Renaming decides between two programs that start at the same time.
+bool RecoveryCopy::adopt() {
+  fs::path newest;
+  fs::file_time_type newestTime;
+  std::error_code error;
+  for (fs::directory_iterator entry(directory_, error), end; !error && entry != end; entry.increment(error)) {
+    const auto process = processOf(entry->path().filename().string());
+    std::error_code ignored;
+    const fs::file_time_type time = entry->last_write_time(ignored);
+    const bool isLeft = process && *process != ::getpid() && !isRunning(*process);
+    if (isLeft && (newest.empty() || time > newestTime)) newest = entry->path(), newestTime = time;
+  }
+  if (newest.empty()) return false;
+  fs::rename(newest, path_, error);
+  return !error;
+}
+
+base::Document RecoveryCopy::read() const {
+  const std::optional<std::string> bytes = base::readFile(path_);
+  if (!bytes) throw base::fileFailure(base::ErrorNumber::fileNotFound, path_);
+  return readDocumentFile(*bytes);
+}
+
+void RecoveryCopy::putAside() {
+  std::error_code ignored;
+  fs::rename(path_, base::joinPath(directory_, std::string(kStem) + "verworfen" + std::string(kSuffix)), ignored);
+}
+
+void RecoveryCopy::remove() {
+  if (!std::exchange(isThere_, false)) return;
+  writtenRevision_.reset();
+  std::error_code ignored;
+  fs::remove(path_, ignored);
+}
+
+}  // namespace editor

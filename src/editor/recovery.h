@@ -1,0 +1,45 @@
+// The recovery copy: what is not saved yet lies beside the settings as RTF, for the start that follows a crash.
+//
+// Its name bears the number of the process that writes it, so that two programs in one directory keep apart; a copy
+// whose process is gone was left behind. It goes with the process's clean end.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "base/rich_text.h"
+
+namespace editor {
+
+class RecoveryCopy {
+ public:
+  explicit RecoveryCopy(std::string directory);
+
+  [[nodiscard]] const std::string& path() const { return path_; }
+
+  /// The text changed since it was written last.
+  [[nodiscard]] bool isBehind(const base::RichText& text) const { return writtenRevision_ != text.revision(); }
+  /// What was to be written has failed.
+  void fellBehind() { writtenRevision_.reset(); }
+  /// `text` as it is now has been, or is being, written.
+  void keepsUpWith(const base::RichText& text) { writtenRevision_ = text.revision(), isThere_ = true; }
+  /// Replaces the copy by `text`; a failure is the caller's.
+  void write(const base::RichText& text) const;
+
+  /// Takes the newest copy that a process left behind as this one's own; nothing when there is none.
+  bool adopt();
+  /// What the copy holds.
+  [[nodiscard]] base::Document read() const;
+  /// Puts an adopted copy aside, where the next one that nobody wants replaces it.
+  void putAside();
+  /// There is nothing to recover any more.
+  void remove();
+
+ private:
+  std::string directory_;
+  std::string path_;
+  std::optional<std::uint64_t> writtenRevision_;
+  bool isThere_ = false;
+};
+
+}  // namespace editor

@@ -1,0 +1,19 @@
+// What protects a lettering that is not saved: the recovery copy while the program runs, the question at its end, the
+// offer at the next start.
+#pragma once
+
+#include "lifecycle/program.h"
+
+namespace lifecycle {
+
+/// Brings the recovery copy up to the text, beside the program, so that nobody waits; removes it when all is saved.
+void keepRecoveryCopy(Program& program);
+
+/// Whether the program may end as far as the document is concerned: asks to save it where that is needed, and removes
+/// the recovery copy unless nobody can be asked. A save that fails or is left keeps the program open.
+bool mayLeave(Program& program);
+
+/// Offers what a program that did not end properly left behind.
+void offerRecovered(Program& program);
+
+}  // namespace lifecycle
