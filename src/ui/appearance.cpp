@@ -65,7 +65,8 @@ void setProgramIcon() {
 }
 
 QString shownAsPlainText(const QString& toolTip) {
-  return Qt::mightBeRichText(toolTip) ? Qt::convertFromPlainText(toolTip) : toolTip;
+  if (!Qt::mightBeRichText(toolTip)) return toolTip;
+  return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(toolTip.toHtmlEscaped());
 }
 
 bool isSameTypeface(const QString& one, const QString& other) {

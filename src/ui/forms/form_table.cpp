@@ -15,10 +15,17 @@
 namespace ui {
 namespace {
 
-template <typename Drawn>
+/// That many average letters wide and lines high, in the desktop's type.
+QSize inLetters(const QWidget& window, int columns, int lines) {
+  const QFontMetrics metrics = window.fontMetrics();
+  return {columns * metrics.averageCharWidth(), lines * metrics.lineSpacing()};
+}
+
+template <typename Drawn, int columns, int lines>
 QWidget* dialog(QWidget* parent) {
   auto* const form = new FormDialog(parent);
   Drawn().setupUi(form);
+  form->resize(inLetters(*form, columns, lines));
   return form;
 }
 
@@ -28,6 +35,7 @@ QWidget* mainWindow(QWidget* /*parent*/) { return new MainForm; }
 QWidget* loadingScreen(QWidget* parent) {
   auto* const screen = new FormDialog(parent, Qt::SplashScreen);
   Ui::LoadingForm().setupUi(screen);
+  screen->setFixedSize(inLetters(*screen, 60, 12).expandedTo(screen->sizeHint()));
   screen->move(QGuiApplication::primaryScreen()->availableGeometry().center() - screen->rect().center());
   return screen;
 }
@@ -35,7 +43,7 @@ QWidget* loadingScreen(QWidget* parent) {
 constexpr std::array kForms = {
     Form{"frmMain", mainWindow},
     Form{"frmLoad", loadingScreen, Appears::whenItTakesLonger},
-    Form{"frmAuswahlAR", dialog<Ui::PickerForm>},
+    Form{"frmAuswahlAR", dialog<Ui::PickerForm, 64, 18>},
 };
 
 }  // namespace

@@ -87,9 +87,13 @@ MainForm::MainForm() : drawn_(drawnOn(*this)) {
 
 MainForm::~MainForm() = default;
 
+// Before the user has chosen a size, the window grows with the type it shows.
 void MainForm::fitToScreen() {
+  constexpr int kColumns = 200;  // average letters
+  constexpr int kLines = 53;
+  const QSize wanted(kColumns * fontMetrics().averageCharWidth(), kLines * fontMetrics().lineSpacing());
   const QSize available = QGuiApplication::primaryScreen()->availableSize();
-  resize(size().boundedTo(available * kShareOfSmallScreen));
+  resize(wanted.boundedTo(available * kShareOfSmallScreen));
 }
 
 void MainForm::restoreLayout() {
