@@ -21,6 +21,11 @@ constexpr int kOfferedItems = 12;
 constexpr int kAroundRow = 16;  // what a style leaves beside the text of a row
 constexpr double kShareOfScreen = 0.4;
 
+/// Whether a list, a menu or another window has the focus for a while only.
+bool isLent(Qt::FocusReason reason) {
+  return reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason || reason == Qt::ActiveWindowFocusReason;
+}
+
 bool isEnter(const QKeyEvent& key) { return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter; }
 
 }  // namespace
@@ -45,7 +50,7 @@ AutoCompleteComboBox::AutoCompleteComboBox(QWidget* parent) : QComboBox(parent) 
 void AutoCompleteComboBox::focusInEvent(QFocusEvent* event) {
   QComboBox::focusInEvent(event);
   if (!lineEdit()->isModified()) before_ = currentText();
-  if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason) return;
+  if (isLent(event->reason())) return;
   widenLists();
   // Every new model lets the completer come first again; here this filter does, for the completer would pass on Enter.
   completer()->popup()->installEventFilter(this);
@@ -55,10 +60,11 @@ void AutoCompleteComboBox::focusInEvent(QFocusEvent* event) {
 
 void AutoCompleteComboBox::focusOutEvent(QFocusEvent* event) {
   const Qt::FocusReason reason = event->reason();
-  const bool staysHere = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
-  if (!staysHere) settle(reason == Qt::TabFocusReason ? Take::completion : Take::wholeItem);
-  QComboBox::focusOutEvent(event);
-  if (!staysHere) showStart();
+  if (!isLent(reason)) settle(reason == Qt::TabFocusReason ? Take::completion : Take::wholeItem);
+  // The line edit would lose its selection to the menu bar.
+  QFocusEvent leaving(QEvent::FocusOut, reason == Qt::MenuBarFocusReason ? Qt::PopupFocusReason : reason);
+  QComboBox::focusOutEvent(&leaving);
+  if (!isLent(reason)) showStart();
 }
 
 void AutoCompleteComboBox::keyPressEvent(QKeyEvent* event) {
@@ -124,6 +130,7 @@ void AutoCompleteComboBox::highlightBest() {
 void AutoCompleteComboBox::widenLists() {
   constexpr std::size_t kMeasured = 10;
   std::vector<QString> longest;
+  longest.reserve(static_cast<std::size_t>(count()));
   for (int row = 0; row < count(); ++row) longest.push_back(itemText(row));
   const auto end = longest.begin() + static_cast<std::ptrdiff_t>(std::min(kMeasured, longest.size()));
   std::partial_sort(longest.begin(), end, longest.end(),

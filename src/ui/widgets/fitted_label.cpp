@@ -46,7 +46,7 @@ QFont FittedLabel::fittedFont() const {
 }
 
 QString FittedLabel::shownText(const QFontMetrics& metrics) const {
-  const QString shown = metrics.elidedText(text(), Qt::ElideRight, contentsRect().width());
+  QString shown = metrics.elidedText(text(), Qt::ElideRight, contentsRect().width());
   if (accessKey_.isEmpty()) return shown;
   const auto at = shown.indexOf(accessKey_, 0, Qt::CaseInsensitive);
   const auto plain = [](QString part) { return part.replace(QLatin1Char('&'), QLatin1String("&&")); };

@@ -26,6 +26,12 @@ QSize NumberEdit::sizeHint() const {
   return {width, QLineEdit::sizeHint().height()};
 }
 
+void NumberEdit::focusOutEvent(QFocusEvent* event) {
+  const bool isLent = event->reason() == Qt::MenuBarFocusReason;
+  QFocusEvent leaving(QEvent::FocusOut, isLent ? Qt::PopupFocusReason : event->reason());
+  QLineEdit::focusOutEvent(&leaving);
+}
+
 void NumberEdit::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   if (event->reason() == Qt::ShortcutFocusReason) selectAll();

@@ -17,6 +17,8 @@ class NumberEdit : public QLineEdit {
  protected:
   /// An access key selects the whole text, also where part of it was selected before.
   void focusInEvent(QFocusEvent* event) override;
+  /// The menu bar borrows the focus: what is selected stays, for its commands shall act on it.
+  void focusOutEvent(QFocusEvent* event) override;
 };
 
 }  // namespace ui
