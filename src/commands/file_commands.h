@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/wiring.h"
-#include "commands/main_commands.h"
+#include "commands/main_parts.h"
 
 namespace commands {
 

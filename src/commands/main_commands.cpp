@@ -15,12 +15,6 @@ namespace {
 using base::Event;
 using base::Wiring;
 
-// A procedure that runs under its tag and reports its failure.
-template <typename Procedure>
-Wiring::Procedure reported(const MainParts& parts, std::string_view tag, Procedure procedure) {
-  return [parts, tag, procedure] { errors::reporting(parts.reporter, tag, [&] { procedure(parts); }); };
-}
-
 void wireDocument(Wiring& wiring, const MainParts& parts) {
   for (const Event event : {Event::changed, Event::selected, Event::released}) {
     wiring.on(parts.window.rtfText, event, reported(parts, calc::kCalcTag, [](const MainParts& p) {
@@ -151,16 +145,6 @@ void wireAddByHand(Wiring& wiring, const MainParts& parts) {
 }
 
 }  // namespace
-
-calc::CalcParts calcParts(const MainParts& parts) {
-  return {.window = parts.window,
-          .document = parts.window.rtfText,
-          .rates = parts.settings.rates,
-          .results = parts.results,
-          .format = parts.platform.numberFormat()};
-}
-
-void calculate(const MainParts& parts) { calc::Calc(calcParts(parts)); }
 
 void selectSurcharge(const MainParts& parts, int index) {
   parts.window.cboAufpreis.select(index);

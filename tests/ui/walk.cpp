@@ -119,6 +119,11 @@ void Walk::close() {
   EXPECT_TRUE(QTest::qWaitFor([this] { return desktop->hasEnded(); }, kPatience));
 }
 
+void Walk::leave() {
+  expectBox("Möchten Sie die Änderungen speichern?", QMessageBox::No);
+  close();
+}
+
 void Walk::settle() { QCoreApplication::processEvents(); }
 
 }  // namespace ui

@@ -68,6 +68,8 @@ class Walk {
 
   /// The main window's close button, up to the end of the program.
   void close();
+  /// The same, with lettering that nobody wants to keep.
+  void leave();
   void settle();
 
   std::unique_ptr<Desktop> desktop;

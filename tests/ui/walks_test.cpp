@@ -56,14 +56,14 @@ TEST(Walk, AnOrderIsPricedKeyByKeyAndTheSettingsOutliveTheProgram) {
     EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "400,00 EUR");
     walk.fill("txtStück", "3");
     EXPECT_EQ(walk.text("lblBruttoGesamt"), "55,68 EUR");
-    walk.close();
+    walk.leave();
   }
   EXPECT_NE(shop.file("Ostrowerk.ini").find("Index1=2\r\n"), std::string::npos);
   EXPECT_NE(shop.file("Tessik.ini").find("[RabatteTip2]\r\nStamm\r\nBar\r\n"), std::string::npos);
   Walk again(shop);
   again.type("AB");
   EXPECT_EQ(again.text("lblPreisNettoGesamt"), "2,00 EUR");
-  again.close();
+  again.leave();
 }
 
 // 8 characters at 10 pieces of 1.00: a net price of 80.00.
@@ -99,7 +99,7 @@ TEST(Walk, TheFourAmountBoxesTakeWhatTheyMayAndKeepInStep) {
   walk.fill("rtfText", "Bäckereien");
   walk.fill("txtProzent", "5");
   EXPECT_EQ(walk.text("txtProzentDM"), "5.00");
-  walk.close();
+  walk.leave();
 }
 
 TEST(Walk, SurchargesAndDiscountsAreChosenFromTheirListsAndPickers) {
@@ -140,7 +140,7 @@ TEST(Walk, SurchargesAndDiscountsAreChosenFromTheirListsAndPickers) {
   });
   walk.click("cmdAufpreisListe");
   EXPECT_EQ(walk.text("cboAufpreis"), "5.00 EUR");
-  walk.close();
+  walk.leave();
 }
 
 TEST(Walk, AnAmountByHandJoinsTheRunningSum) {
@@ -169,7 +169,7 @@ TEST(Walk, DamagedSettingsAreToldAndKeptAndTheProgramGoesOn) {
   });
   walk.type("AB");
   EXPECT_EQ(walk.text("lblMwstG1"), "Mwst. 16 %");
-  walk.close();
+  walk.leave();
   EXPECT_EQ(shop.file("Ostrowerk.ini.1"), "[Einstellungen]\r\nMwst=viel\r\n");
   EXPECT_NE(shop.file("Ostrowerk.ini").find("Mwst=16"), std::string::npos);
 }

@@ -1,0 +1,16 @@
+// What every procedure of the main window does with its parts.
+#include "commands/main_parts.h"
+
+namespace commands {
+
+calc::CalcParts calcParts(const MainParts& parts) {
+  return {.window = parts.window,
+          .document = parts.window.rtfText,
+          .rates = parts.settings.rates,
+          .results = parts.results,
+          .format = parts.platform.numberFormat()};
+}
+
+void calculate(const MainParts& parts) { calc::Calc(calcParts(parts)); }
+
+}  // namespace commands

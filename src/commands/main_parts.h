@@ -1,0 +1,41 @@
+// What the main window's procedures work on, and what every one of them does with it.
+#pragma once
+
+#include <string_view>
+
+#include "base/platform.h"
+#include "base/wiring.h"
+#include "calc/calc.h"
+#include "calc/picker.h"
+#include "editor/open_document.h"
+#include "errors/reporting.h"
+#include "frame/main_window.h"
+#include "settings/settings.h"
+
+namespace commands {
+
+/// All of it outlives the wiring.
+struct MainParts {
+  frame::MainWindow& window;
+  settings::Settings& settings;
+  settings::Paths& paths;
+  frame::CalcResults& results;
+  editor::OpenDocument& document;
+  calc::PickerWindow& picker;
+  base::Platform& platform;
+  errors::Reporter& reporter;
+};
+
+/// A procedure that runs under its tag and reports its failure.
+template <typename Procedure>
+base::Wiring::Procedure reported(const MainParts& parts, std::string_view tag, Procedure procedure) {
+  return [parts, tag, procedure] { errors::reporting(parts.reporter, tag, [&] { procedure(parts); }); };
+}
+
+/// The parts that the calculation takes of all these.
+calc::CalcParts calcParts(const MainParts& parts);
+
+/// Runs the calculation; a failure is the caller's.
+void calculate(const MainParts& parts);
+
+}  // namespace commands
