@@ -23,6 +23,7 @@
 #include "base/version.h"
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
+#include "editor/document_file.h"
 #include "lifecycle/assembly.h"
 #include "lifecycle/first_use.h"
 #include "lifecycle/program_directory.h"
@@ -65,15 +66,9 @@ std::string readText(const std::string& file, const Streams& streams) {
   return readAll(stream, error ? 0 : static_cast<std::size_t>(size), file);
 }
 
-std::string lettering(const PriceRequest& request, const Streams& streams) {
-  if (!request.file) return request.text.value_or("");
-  std::string text = base::decoded(readText(*request.file, streams));
-  if (std::string_view(text).substr(std::min(text.find_first_not_of(" \t\r\n"), text.size())).starts_with("{\\rtf")) {
-    constexpr auto kNumber = base::ErrorNumber::invalidCall;
-    throw base::Failure(kNumber,
-                        base::withPlace("Nur reine Textdateien werden gelesen, kein RTF.", *request.file, kNumber));
-  }
-  return text;
+void setLettering(base::RichText& document, const PriceRequest& request, const Streams& streams) {
+  if (!request.file) return document.setPlainText(request.text.value_or(""));
+  document.setDocument(editor::readDocumentFile(readText(*request.file, streams)));
 }
 
 lifecycle::ProgramDirectory chosenDirectory(const PriceRequest& request) {
@@ -196,7 +191,7 @@ std::string price(const PriceRequest& request, const Streams& streams) {
   readSettings(program, request, streams.error);
   const MainParts parts = lifecycle::partsOf(program);
 
-  parts.window.rtfText.setPlainText(lettering(request, streams));
+  setLettering(parts.window.rtfText, request, streams);
   loadAdjustments(parts);
   loadPrices(parts, directory, streams.error);
   setInputs(parts, request);
