@@ -126,7 +126,7 @@ int Writer::numberOfColour(std::optional<base::Rgb> colour) {
 }
 
 void Writer::header() {
-  put("{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\\deflang1031");
+  put(R"({\rtf1\ansi\ansicpg1252\uc1\deff0\deflang1031)");
   fontTable();
   colourTable();
   // Without this group some word processors change runs of blanks.
@@ -180,7 +180,7 @@ void Writer::paragraph(const base::Paragraph& paragraph) {
 void Writer::endParagraph(Numbers numbers) {
   const Script script = std::exchange(numbers.script, Script::normal);
   format(numbers);
-  put(script == Script::normal ? "\\par" : script == Script::superscript ? "\\up6\\par\\up0" : "\\dn6\\par\\dn0");
+  put(script == Script::normal ? "\\par" : script == Script::superscript ? R"(\up6\par\up0)" : R"(\dn6\par\dn0)");
   put(kLineEnd);
 }
 

@@ -123,8 +123,9 @@ Glyph glyphOf(const QJsonObject& format) {
 Content wantedContent(const QJsonArray& paragraphs) {
   Content content;
   bool hasCells = false;
-  for (const QJsonValue& paragraph : paragraphs) {
-    for (const QJsonValue& run : paragraph["runs"].toArray()) {
+  for (const QJsonValue paragraph : paragraphs) {
+    const QJsonArray runs = paragraph["runs"].toArray();
+    for (const QJsonValue run : runs) {
       const QJsonObject format = run[1].toObject();
       if (format["hidden"].toInt() != 0 || format["deleted"].toInt() != 0) continue;
       addGlyphs(content.glyphs, run[0].toString().toStdString(), glyphOf(format));
