@@ -31,7 +31,8 @@ TEST(ProgramDirectory, IsGivenThenPortableThenTheUsersOwn) {
   portable.write("Ostrowerk.ini", "");
   EXPECT_EQ(programDirectory(candidates), (ProgramDirectory{.path = portable.path("")}));
   candidates.given = "Daten";
-  EXPECT_EQ(programDirectory(candidates), (ProgramDirectory{.path = "Daten"}));
+  EXPECT_EQ(programDirectory(candidates),
+            (ProgramDirectory{.path = (std::filesystem::current_path() / "Daten").string()}));
 }
 
 TEST(ProgramDirectory, TheUsersDataLieWhereTheDesktopSays) {

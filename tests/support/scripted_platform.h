@@ -23,6 +23,8 @@ class ScriptedPlatform : public base::Platform {
 
   /// Expects this message next and gives `answer`.
   void expectMessage(base::Message message, base::MessageAnswer answer = base::MessageAnswer::ok);
+  /// Expects a message of any text.
+  void expectAnyMessage(base::MessageAnswer answer);
   /// Expects a file dialog with this filter next; nothing chosen is Cancel.
   void expectFileDialog(std::string filter, std::optional<std::string> chosen);
   /// Expects the modal window `name` next; `whileOpen` acts as the person before it and must close it.
@@ -81,6 +83,7 @@ class ScriptedPlatform : public base::Platform {
   struct Question {
     base::Message message;  // of a message box
     base::MessageAnswer answer = base::MessageAnswer::ok;
+    bool isAny = false;
     std::string window;  // of a modal window, else empty
     std::function<void(base::Window&)> whileOpen;
     std::optional<std::string> file = {};  // chosen in a file dialog

@@ -124,6 +124,10 @@ void Walk::leave() {
   close();
 }
 
-void Walk::settle() { QCoreApplication::processEvents(); }
+// Without a window manager nobody else brings the main window back to the front.
+void Walk::settle() {
+  QCoreApplication::processEvents();
+  if (QApplication::activeWindow() == nullptr) QApplication::setActiveWindow(&desktop->mainForm());
+}
 
 }  // namespace ui

@@ -4,6 +4,9 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QCompleter>
+#include <QDir>
+#include <QLineEdit>
 #include <QListView>
 #include <filesystem>
 #include <string>
@@ -209,6 +212,58 @@ TEST(Walk, ExitEndsTheProgramLikeItsCloseButton) {
   walk.press(Qt::Key_Q, Qt::ControlModifier);
   EXPECT_TRUE(QTest::qWaitFor([&] { return walk.desktop->hasEnded(); }));
   EXPECT_NE(shop.userStore().find("SndPfad="), std::string::npos);
+}
+
+/// Types a name into a file dialog of the toolkit, which starts in the working directory, and agrees.
+void chooseFile(QDialog& dialog, const QString& file) {
+  auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
+  ASSERT_NE(name, nullptr) << dialog.windowTitle().toStdString();
+  name->setFocus();
+  name->selectAll();
+  QTest::keyClicks(name, file);
+  name->completer()->popup()->hide();  // or Return would take what it proposes
+  QTest::keyClick(name, Qt::Key_Return);
+}
+
+TEST(Walk, ADocumentIsSavedAskedForAndOpenedAgain) {
+  const Shop shop;
+  QDir::setCurrent(QString::fromStdString(shop.directory.path("")));
+  const std::string path = shop.directory.path("Angebot.rtf");
+  {
+    Walk walk(shop);
+    walk.type("Huber");
+    walk.whenAsked([](QDialog& dialog) { chooseFile(dialog, "Angebot.rtf"); });
+    walk.press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(walk.desktop->mainForm().windowTitle().toStdString(), "Tessik v1.4 - " + path);
+    EXPECT_EQ(Walk::focus(), "rtfText");
+    walk.press(Qt::Key_End, Qt::ControlModifier);
+    walk.type(" & Co");
+    walk.expectBox("Möchten Sie die Änderungen speichern?", QMessageBox::Cancel);
+    walk.press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(walk.text("rtfText"), "Huber & Co");
+    walk.leave();
+  }
+  Walk walk(shop);
+  walk.whenAsked([](QDialog& dialog) { chooseFile(dialog, "Angebot.rtf"); });
+  walk.press(Qt::Key_O, Qt::ControlModifier);
+  EXPECT_EQ(walk.text("rtfText") + " " + walk.text("lblPreisNettoGesamt"), "Huber 5,00 EUR");
+  walk.close();
+}
+
+TEST(Walk, AClosedWindowKeepsTheLetteringUntilItIsAnsweredFor) {
+  const Shop shop;
+  Walk walk(shop);
+  walk.type("Huber");
+  walk.expectBox("Möchten Sie die Änderungen speichern?", QMessageBox::Cancel);
+  QMetaObject::invokeMethod(&walk.desktop->mainForm(), &QWidget::close, Qt::QueuedConnection);
+  QTest::qWait(100);
+  EXPECT_FALSE(walk.desktop->hasEnded());
+  EXPECT_EQ(walk.text("rtfText"), "Huber");
+  QDir::setCurrent(QString::fromStdString(shop.directory.path("")));
+  walk.expectBox("Möchten Sie die Änderungen speichern?", QMessageBox::Yes);
+  walk.whenAsked([](QDialog& dialog) { chooseFile(dialog, "Huber"); });
+  walk.close();
+  EXPECT_NE(shop.directory.read("Huber.rtf").find("Huber"), std::string::npos);
 }
 
 }  // namespace

@@ -1,0 +1,206 @@
+// Document files: what is asked before work is lost, and what stands where afterwards.
+#include "commands/file_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "editor/document_file.h"
+#include "editor/recovery.h"
+#include "support/session.h"
+
+namespace commands {
+namespace {
+
+using base::MessageAnswer;
+
+const base::Message kSaveQuestion{.text = "Möchten Sie die Änderungen speichern?",
+                                  .icon = base::MessageIcon::question,
+                                  .buttons = base::MessageButtons::yesNoCancel};
+constexpr const char* kOpenFilter = "RTF-Dokument (*.rtf)|*.rtf|Textdatei (*.txt)|*.txt|Alle Dateien (*.*)|*.*";
+constexpr const char* kSaveFilter = "RTF-Dokument (*.rtf)|*.rtf";
+
+struct Files : testing::Test {
+  Files() : session(directory) {
+    session.platform.userSettings["Version"] = "1.4";
+    for (const char* const name : {"Ostrowerk.ini", "Tessik.ini"}) directory.write(name, "");
+    settings::writeDefaults(session.program.paths, session.program.settings, settings::File::general);
+    settings::writeDefaults(session.program.paths, session.program.settings, settings::File::lists);
+    session.start();
+    session.offerHeights({{"50", "1.25"}});
+  }
+  void openAs(
+      const std::string& name, const std::function<void()>& whatFollows = [] {}) {
+    session.platform.expectFileDialog(kOpenFilter, directory.path(name));
+    whatFollows();
+    session.click(session.window.mnuOpen);
+  }
+  void saveAs(const std::string& name) {
+    session.platform.expectFileDialog(kSaveFilter, directory.path(name));
+    session.click(session.window.cmdSave);
+  }
+  [[nodiscard]] std::string inFile(const std::string& name) const {
+    return base::plainText(editor::readDocumentFile(directory.read(name)));
+  }
+
+  const support::TemporaryDirectory directory;
+  support::Session session;
+};
+
+TEST_F(Files, ASavedNameEndsInLowerCaseRtfAndIsTheCurrentFile) {
+  session.write("Huber");
+  saveAs("ANGEBOT.RTF");
+  EXPECT_EQ(inFile("ANGEBOT.RTF.rtf"), "Huber");
+  const std::string path = directory.path("ANGEBOT.RTF.rtf");
+  EXPECT_EQ(session.window.caption, "Tessik v1.4 - " + path);
+  EXPECT_EQ(session.window.mnuLastFile.text, path);
+  EXPECT_EQ(session.platform.userSettings["LastFile"], path);
+  session.write("Meier");
+  session.platform.expectFileDialog(kSaveFilter, directory.path("ANGEBOT.RTF.rtf"));
+  session.platform.expectMessage({.text = "Die Datei gibt es schon:\r\n" + path + "\r\n\r\nSoll sie ersetzt werden?",
+                                  .icon = base::MessageIcon::exclamation,
+                                  .buttons = base::MessageButtons::yesNo},
+                                 MessageAnswer::no);
+  saveAs("Meier.rtf");
+  EXPECT_EQ(inFile("ANGEBOT.RTF.rtf") + inFile("Meier.rtf"), "HuberMeier");
+}
+
+TEST_F(Files, EveryCommandThatReplacesUnsavedWorkAsksFirst) {
+  directory.write("neu.txt", "Ä b\nc");
+  session.program.settings.user.lastFile = directory.path("neu.txt");
+  const base::MenuEntry frame::MainWindow::*const commands[] = {&frame::MainWindow::mnuNeu, &frame::MainWindow::mnuOpen,
+                                                                &frame::MainWindow::mnuLastFile};
+  for (const auto command : commands) {
+    session.write("Huber");
+    session.platform.expectMessage(kSaveQuestion, MessageAnswer::cancel);
+    session.click(session.window.*command);
+    // A save that is left ends the command as well.
+    session.platform.expectMessage(kSaveQuestion, MessageAnswer::yes);
+    session.platform.expectFileDialog(kSaveFilter, std::nullopt);
+    session.click(session.window.*command);
+    EXPECT_EQ(session.document.plainText(), "Huber");
+    session.platform.expectMessage(kSaveQuestion, MessageAnswer::no);
+    if (command == &frame::MainWindow::mnuOpen)
+      session.platform.expectFileDialog(kOpenFilter, directory.path("neu.txt"));
+    session.click(session.window.*command);
+    EXPECT_EQ(session.document.plainText(), command == &frame::MainWindow::mnuNeu ? "" : "Ä b\r\nc");
+  }
+  // What costs nothing is not asked about.
+  session.write("\r\n");
+  session.click(session.window.cmdNew);
+}
+
+TEST_F(Files, NewResetsTheInputsAndOpenPricesWhatItShows) {
+  directory.write("neu.txt", "Huber");
+  session.write("Meier");
+  session.type(session.window.txtProzent, "10");
+  session.type(session.window.txtStück, "7");
+  session.document.setFormat({.family = "Courier New", .points = 30, .bold = true});
+  session.platform.expectMessage(kSaveQuestion, MessageAnswer::no);
+  session.click(session.window.mnuNeu);
+  EXPECT_EQ(session.window.txtProzent.text + session.window.txtProzentDM.text + session.window.txtStück.text,
+            "0.000.001");
+  EXPECT_EQ(session.document.format(), base::CharFormat{});
+  openAs("neu.txt");
+  EXPECT_EQ(session.window.lblPreisNettoGesamt.text, "6,25 EUR");
+  EXPECT_EQ(session.document.format(), base::CharFormat{});
+  session.platform.expectMessage(kSaveQuestion, MessageAnswer::no);
+  session.document.changeFormat({.bold = true});
+  session.document.replaceSelection("x");
+  session.program.wiring.fire(session.window, base::Event::closing);
+}
+
+TEST_F(Files, AFailedOpenLeavesDocumentFormatAndFile) {
+  session.write("Huber");
+  saveAs("Huber.rtf");
+  directory.write("bild.png", std::string_view("\x89PNG\0\0", 6));
+  std::filesystem::create_directory(directory.path("Ordner"));
+  for (const char* const name : {"fehlt.rtf", "bild.png", "Ordner"}) {
+    openAs(name, [this] { session.platform.expectAnyMessage(MessageAnswer::ok); });
+    EXPECT_EQ(session.document.plainText(), "Huber");
+    EXPECT_EQ(session.program.document.file, directory.path("Huber.rtf"));
+    EXPECT_NE(directory.read("Error.log").find("Fehlerprozedur=MAIN-LoadNow"), std::string::npos);
+  }
+}
+
+TEST_F(Files, WarnOfTextsBeyond65000CharactersWithTheirLineEnds) {
+  std::string text(64'998, 'x');
+  directory.write("genug.txt", text.append("\n"));
+  directory.write("zuviel.txt", text.insert(0, "x"));
+  openAs("genug.txt");
+  const base::Message warning(
+      {.text = "Durch die komplexen Berechnungen kann es bei Dateien dieser Größe zu Performanceverlusten kommen! Tip: "
+               "Text in den Container laden, und benötigte Textstücke über die Zwischenablage kopieren!",
+       .title = "HINWEIS",
+       .icon = base::MessageIcon::exclamation});
+  openAs("zuviel.txt", [&] { session.platform.expectMessage(warning); });
+}
+
+TEST_F(Files, TheEndAsksForUnsavedWorkAndStaysWhenItIsNotKept) {
+  session.write("Huber");
+  session.platform.expectMessage(kSaveQuestion, MessageAnswer::cancel);
+  session.end();
+  EXPECT_TRUE(session.window.keepsOpen);
+  session.window.keepsOpen = false;
+  session.platform.expectMessage(kSaveQuestion, MessageAnswer::yes);
+  session.platform.expectFileDialog(kSaveFilter, std::nullopt);
+  session.end();
+  EXPECT_TRUE(session.window.keepsOpen);
+  session.window.keepsOpen = false;
+  session.platform.expectMessage(kSaveQuestion, MessageAnswer::yes);
+  session.platform.expectFileDialog(kSaveFilter, directory.path("Huber"));
+  session.end();
+  EXPECT_FALSE(session.window.keepsOpen);
+  EXPECT_EQ(inFile("Huber.rtf"), "Huber");
+}
+
+TEST_F(Files, TheRecoveryCopyFollowsTheTextAndGoesWithACleanEnd) {
+  const std::string copy = std::filesystem::path(session.program.recovery.path()).filename().string();
+  const auto tick = [&] { session.program.wiring.fire(session.window.tmrSicherung, base::Event::tick); };
+  tick();
+  EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
+  session.write("Huber");
+  tick();
+  EXPECT_EQ(inFile(copy), "Huber");
+  saveAs("Huber");
+  tick();
+  EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
+  session.write("Meier");
+  tick();
+  session.platform.expectMessage(kSaveQuestion, MessageAnswer::no);
+  session.end();
+  EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
+}
+
+// Process 1 is never this program.
+TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
+  const base::Message offer{.text =
+                                "Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n"
+                                "Soll der nicht gespeicherte Text wiederhergestellt werden?",
+                            .icon = base::MessageIcon::question,
+                            .buttons = base::MessageButtons::yesNo};
+  for (const MessageAnswer answer : {MessageAnswer::yes, MessageAnswer::no}) {
+    directory.write("Wiederherstellung-1.rtf", "{\\rtf1 Huber}");
+    support::Session next(directory);
+    next.platform.userSettings["Version"] = "1.4";
+    next.platform.expectMessage(offer, answer);
+    next.start();
+    const bool isWanted = answer == MessageAnswer::yes;
+    EXPECT_EQ(next.document.plainText(), isWanted ? "Huber" : "");
+    EXPECT_FALSE(std::filesystem::exists(directory.path("Wiederherstellung-1.rtf")));
+    EXPECT_EQ(inFile(isWanted ? next.program.recovery.path().substr(directory.path("").size() + 1)
+                              : std::string("Wiederherstellung-verworfen.rtf")),
+              "Huber");
+    if (!isWanted) continue;
+    // Nobody can be asked: the copy stays for the next start.
+    next.window.mayAsk = false;
+    next.end();
+    EXPECT_TRUE(std::filesystem::exists(next.program.recovery.path()));
+    std::filesystem::remove(next.program.recovery.path());
+  }
+}
+
+}  // namespace
+}  // namespace commands
