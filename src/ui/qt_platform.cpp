@@ -73,6 +73,9 @@ QString nameFilters(const std::string& filter) {
   return result.join(QStringLiteral(";;"));
 }
 
+// In the working directory, where the toolkit would rather remember a place of its own.
+QString start(const std::string& suggestion) { return QDir::current().filePath(toQString(suggestion)); }
+
 // The next dialog starts where this one ended.
 std::string chosen(const QString& path) {
   if (path.isEmpty()) throw base::Failure(base::ErrorNumber::cancelled);
@@ -104,13 +107,13 @@ std::optional<std::string> QtPlatform::inputBox(const base::InputQuestion& quest
 std::string QtPlatform::askOpenFile(const base::FileQuestion& question) {
   const Gate::ModalWait wait(gate_);
   return chosen(QFileDialog::getOpenFileName(QApplication::activeWindow(), toQString(question.title),
-                                             toQString(question.suggestion), nameFilters(question.filter)));
+                                             start(question.suggestion), nameFilters(question.filter)));
 }
 
 std::string QtPlatform::askSaveFile(const base::FileQuestion& question) {
   const Gate::ModalWait wait(gate_);
   return chosen(QFileDialog::getSaveFileName(QApplication::activeWindow(), toQString(question.title),
-                                             toQString(question.suggestion), nameFilters(question.filter), nullptr,
+                                             start(question.suggestion), nameFilters(question.filter), nullptr,
                                              QFileDialog::DontConfirmOverwrite));
 }
 
