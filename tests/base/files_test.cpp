@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -17,6 +18,23 @@
 
 #include "base/file_replacement.h"
 #include "support/temporary_directory.h"
+
+namespace {
+
+// What was flushed to disk: of files their permissions, 0 for a directory.
+std::vector<mode_t>& flushed() {
+  static std::vector<mode_t> modes;
+  return modes;
+}
+
+}  // namespace
+
+// Takes the place of the system's function, whose work nobody sees until a power cut.
+extern "C" int fsync(int file) {
+  struct stat status {};
+  if (::fstat(file, &status) == 0) flushed().push_back(S_ISDIR(status.st_mode) ? 0 : status.st_mode & 0777U);
+  return static_cast<int>(::syscall(SYS_fsync, file));
+}
 
 namespace {
 
@@ -53,6 +71,24 @@ TEST(ReplaceFile, KeepsPermissionsAndNeverWritesToTheOldFile) {
   EXPECT_EQ(fs::status(directory.path("a.ini")).permissions(), fs::perms(0666));
   EXPECT_EQ(directory.read("old"), "old");
   EXPECT_EQ(entriesOf(directory), 2);
+}
+
+TEST(ReplaceFile, FlushesTheFileUnderItsRightsAndThenItsDirectory) {
+  const TemporaryDirectory directory;
+  directory.write("a.ini", "old");
+  fs::permissions(directory.path("a.ini"), fs::perms(0640));
+  flushed().clear();
+  base::replaceFile(directory.path("a.ini"), "new");
+  EXPECT_EQ(flushed(), (std::vector<mode_t>{0640, 0}));
+}
+
+TEST(ReplaceFile, WritesThroughNoLinkThatStandsInItsWay) {
+  const TemporaryDirectory directory;
+  directory.write("a.ini", "old");
+  directory.write("other", "foreign");
+  fs::create_symlink("other", directory.path(".a.ini.neu"));
+  EXPECT_EQ(failureOfReplacing(directory.path("a.ini")), ErrorNumber::pathFileAccess);
+  EXPECT_EQ(directory.read("other"), "foreign");
 }
 
 TEST(ReplaceFile, FollowsLinks) {

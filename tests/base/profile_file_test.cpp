@@ -37,6 +37,7 @@ TEST(ProfileFile, ReadsValues) {
       {"the first section counts alone", "[s]\na=1\n[S]\nb=2", "s", "b", std::nullopt},
       {"a line without = is no key", "[s]\na", "s", "a", std::nullopt},
       {"a single quote is no pair", "[s]\na=\"", "s", "a", "\""},
+      {"an unpaired quote stays", "[s]\na=\"x'\n", "s", "a", "\"x'"},
       {"a mark in front is no text", "\xEF\xBB\xBF[s]\na=ß", "s", "a", "ß"},
       {"a value ends at a NUL", "[s]\na=x\0y\n\0=2"s, "s", "a", "x"},
       {"line ends may be mixed", "[s]\ra=1\r\n\nb=2\rc=3\n", "s", "c", "3"},
@@ -120,7 +121,7 @@ TEST(ProfileFile, KnowsOfItsChangesWhatAReaderWould) {
 }
 
 TEST(ProfileFile, FindsEveryKeyWhileTheyComeAndGo) {
-  ProfileFile file = ProfileFile::parse("[s]\nx=0\nx=1\n");
+  ProfileFile file = ProfileFile::parse("[s]\nx=0\nx=1\nx=2\n");
   for (int i = 0; i < 3000; ++i) file.setValue("s", "key" + std::to_string(i), std::to_string(i));
   for (int i = 0; i < 3000; ++i) file.setValue("s", std::to_string(i), std::to_string(-i));
   for (int i = 0; i < 3000; i += 2) file.deleteKey("s", "KEY" + std::to_string(i));
@@ -132,6 +133,8 @@ TEST(ProfileFile, FindsEveryKeyWhileTheyComeAndGo) {
   EXPECT_EQ(file.value("s", "X", 255), "0");
   file.deleteKey("s", "x");
   EXPECT_EQ(file.value("s", "x", 255), "1");
+  file.deleteKey("s", "x");
+  EXPECT_EQ(file.value("s", "x", 255), "2");
 }
 
 TEST(ProfileFile, FindsNumberedKeysAfterGapsAndDuplicates) {

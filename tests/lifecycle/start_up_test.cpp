@@ -117,7 +117,9 @@ TEST(StartUp, AFirstStartKeepsAndNamesTheFilesOfAnotherInstallation) {
   const Installation directory;
   Session session(directory);
   session.platform.userSettings["Version"] = "1.3";
+  session.platform.userSettings["WinState"] = "2";
   session.start();
+  EXPECT_EQ(session.window.state, base::WindowState::normal);
   EXPECT_EQ(directory.read("Ostrowerk.ini.1"), kGeneral);
   EXPECT_EQ(directory.read("Tessik.ini.1"), kLists);
   EXPECT_NE(directory.read("Ostrowerk.ini").find("Mwst=16"), std::string::npos);
@@ -342,12 +344,18 @@ TEST(ShutDown, AllThatASessionLeavesIsWrittenInItsOrder) {
   session.platform.log.clear();
   session.window.state = base::WindowState::minimised;
   session.program.settings.rates.countBlanks = 0;
+  session.program.settings.reminderSound = "Hupe.wav";
   session.end();
   EXPECT_FALSE(session.window.keepsOpen);
   EXPECT_EQ(session.platform.log, (Texts{"save RGF", "save Sync", "save Version", "save X", "save LastFile", "save FA",
                                          "save WinState", "save Beeper", "save SndPfad"}));
-  for (const auto& [key, value] :
-       {std::pair{"RGF", "7"}, {"Sync", "a"}, {"X", "b"}, {"FA", "Anna"}, {"Version", "1.4"}, {"WinState", "1"}}) {
+  for (const auto& [key, value] : {std::pair{"RGF", "7"},
+                                   {"Sync", "a"},
+                                   {"X", "b"},
+                                   {"FA", "Anna"},
+                                   {"Version", "1.4"},
+                                   {"WinState", "1"},
+                                   {"SndPfad", "Hupe.wav"}}) {
     EXPECT_EQ(session.platform.userSettings[key], value) << key;
   }
   EXPECT_NE(directory.read("Ostrowerk.ini").find("LZ=0\r\n"), std::string::npos);

@@ -16,7 +16,7 @@ using namespace settings;
 using base::ErrorNumber;
 
 // The general keys of a new installation after the value of "Index1".
-constexpr const char* kGeneralRest = "Index2=1\r\nTVorn=0\r\nLZ=1\r\nSnd=Gong.wav\r\n";
+constexpr const char* kGeneralRest = "Index2=1\r\nTVorn=1\r\nLZ=1\r\nSnd=Gong.wav\r\n";
 
 class SettingsFiles : public testing::Test {
  protected:
@@ -150,7 +150,8 @@ TEST_F(SettingsFiles, WritingBackKeepsWhatIsForeignAndTheEncoding) {
                   "einheit=Fu\xDF\r\nIndex1=1\r\nEigenes=1\r\n" +
                       std::string(kGeneralRest));
   const std::string kept = "[Versalienh\xF6he]\r\n50\r\n[Einstellungen1]\r\nPreise2=1\r\n";
-  writeLists("Indexp1=4\r\nIndexp2=1\r\n", kept + "[Rabatte]\r\n10 %\r\n5 %\r\n[Rabatte2]\r\nTreue = 3 %\r\n");
+  writeLists("Indexp1=4\r\nIndexp2=1\r\n",
+             kept + "[Rabatte]\r\n10 %\r\n5 %\r\n[Rabatte2]\r\nTreue = 3 %\r\n[RabatteTip2]\r\nStamm\r\n");
   EXPECT_TRUE(read().problems.empty());
   EXPECT_EQ(settings.rates.unit, "Fuß");
   EXPECT_EQ(settings.further.capHeights[0], "50");
@@ -163,8 +164,9 @@ TEST_F(SettingsFiles, WritingBackKeepsWhatIsForeignAndTheEncoding) {
             "Ma\xDF"
             "einheit=Fu\xDF\r\nIndex1=1\r\nEigenes=1\r\n" +
                 std::string(kGeneralRest));
-  EXPECT_EQ(directory.read("Tessik.ini"), "[Einstellungen]\r\nIndexp1=4\r\nIndexp2=1\r\n" + kept +
-                                              "[Rabatte]\r\n10 %\r\n[Rabatte2]\r\nTreue = 3 %\r\n");
+  EXPECT_EQ(directory.read("Tessik.ini"),
+            "[Einstellungen]\r\nIndexp1=4\r\nIndexp2=1\r\n" + kept +
+                "[Rabatte]\r\n10 %\r\n[Rabatte2]\r\nTreue = 3 %\r\n[RabatteTip2]\r\nStamm\r\n");
 }
 
 TEST_F(SettingsFiles, TheSoundKeeps31CharactersAndTheWholePathWhileItBeginsWithThem) {
@@ -194,7 +196,9 @@ TEST_F(SettingsFiles, ANumberedCopyTakesTheFirstFreeNameAndEveryByte) {
   EXPECT_EQ(directory.read("Ostrowerk.ini.1"), "älter");
   EXPECT_EQ(keepNumberedCopy(path), path + ".3") << "it is kept already";
   directory.write("Ostrowerk.ini", "neu");
-  EXPECT_EQ(keepNumberedCopy(path), path + ".4");
+  ReadReport notRead{.problems = {}, .generalIsWhole = false};
+  saveSettings(paths, settings, File::general, notRead);
+  EXPECT_EQ(directory.read("Ostrowerk.ini.4"), "neu");
 }
 
 }  // namespace
