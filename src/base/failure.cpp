@@ -55,11 +55,13 @@ std::string withPlace(std::string_view sentence, std::string_view place, ErrorNu
          std::to_string(static_cast<int>(number)) + ")";
 }
 
-Failure asFailure(const std::exception& fault) {
-  if (const auto* const failure = dynamic_cast<const Failure*>(&fault)) return *failure;
-  if (dynamic_cast<const std::bad_alloc*>(&fault) != nullptr) return Failure(ErrorNumber::outOfMemory);
-  constexpr ErrorNumber kNumber = ErrorNumber::internal;
-  return Failure(kNumber, withPlace(errorText(kNumber), fault.what(), kNumber));
+Failure asFailure(const std::exception& fault, std::string_view tag) {
+  Failure result(ErrorNumber::internal,
+                 withPlace(errorText(ErrorNumber::internal), fault.what(), ErrorNumber::internal));
+  if (const auto* const failure = dynamic_cast<const Failure*>(&fault)) result = *failure;
+  if (dynamic_cast<const std::bad_alloc*>(&fault) != nullptr) result = Failure(ErrorNumber::outOfMemory);
+  result.stamp(tag);
+  return result;
 }
 
 void Failure::stamp(std::string_view tag) {

@@ -61,20 +61,16 @@ class Failure : public std::exception {
 };
 
 /// What an exception of any kind is to us: a Failure is itself, lack of memory is error 7, all else error 51.
-Failure asFailure(const std::exception& fault);
+/// It is stamped with `tag` unless it has a tag.
+Failure asFailure(const std::exception& fault, std::string_view tag = {});
 
 /// Runs a tagged procedure that other procedures call: a failure keeps the tag of the innermost one.
 template <typename Procedure>
 decltype(auto) tagged(std::string_view tag, Procedure&& procedure) {
   try {
     return procedure();
-  } catch (Failure& failure) {
-    failure.stamp(tag);
-    throw;
   } catch (const std::exception& fault) {
-    Failure failure = asFailure(fault);
-    failure.stamp(tag);
-    throw failure;
+    throw asFailure(fault, tag);
   }
 }
 

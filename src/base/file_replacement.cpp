@@ -85,7 +85,7 @@ class Replacement {
 
   // Giving a file to another owner is a right that few have; without it the group is kept alone, if that may be.
   void takeOverRights(const struct stat& old) {
-    constexpr uid_t kSameOwner = static_cast<uid_t>(-1);
+    constexpr auto kSameOwner = static_cast<uid_t>(-1);
     const auto give = [&](uid_t owner) { return ::fchown(file_.number(), owner, old.st_gid) == 0; };
     mode_t mode = old.st_mode;
     if (give(old.st_uid)) {
@@ -158,10 +158,10 @@ void replaceFile(const std::string& path, std::string_view bytes) {
   writeWhole(target, replaceable(target), bytes);
 }
 
-void writeCopy(const std::string& path, std::string_view bytes, const std::string& original) {
+void writeCopy(const std::string& target, std::string_view bytes, const std::string& original) {
   struct stat rights {};
   if (::stat(original.c_str(), &rights) != 0) throw fileFailure(errno, original);
-  writeWhole(path, rights, bytes);
+  writeWhole(target, rights, bytes);
 }
 
 }  // namespace base

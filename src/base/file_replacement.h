@@ -12,7 +12,7 @@ namespace base {
 /// beside it.
 void replaceFile(const std::string& path, std::string_view bytes);
 
-/// Writes `bytes` to `path`, where no file is yet, in the same way and with the rights of the file `original`.
-void writeCopy(const std::string& path, std::string_view bytes, const std::string& original);
+/// Writes `bytes` to `target`, where no file is yet, in the same way and with the rights of the file `original`.
+void writeCopy(const std::string& target, std::string_view bytes, const std::string& original);
 
 }  // namespace base

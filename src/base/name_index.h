@@ -38,7 +38,7 @@ class NameIndex {
   static constexpr std::uint32_t kNone = 0xFFFFFFFF;
 
   struct Entry {
-    std::uint32_t position;
+    std::uint32_t position = 0;
     std::uint32_t next = kNone;  // of the same hash, in the order of adding
   };
   struct Slot {

@@ -85,9 +85,8 @@ void readSettings(lifecycle::Program& program, const PriceRequest& request, std:
   const settings::ReadReport report =
       settings::readSettings(program.paths, program.settings, settings::MissingNumber::keepsDefault);
   for (const settings::ReadProblem& problem : report.problems) {
-    const base::Failure failure = settings::failureOf({problem});
-    if (problem.number != base::ErrorNumber::indexOutOfRange) throw failure;
-    tellNote(notes, failure.text());
+    if (problem.number != base::ErrorNumber::indexOutOfRange) throw settings::failureOf({problem});
+    tellNote(notes, settings::failureOf({problem}).text());
   }
   settings::Rates& rates = program.settings.rates;
   rates.vatPercent = request.vatPercent.value_or(rates.vatPercent);
