@@ -50,12 +50,14 @@ ProgramDirectory programDirectory(const DirectoryCandidates& candidates) {
 }
 
 std::optional<std::string> faultOf(const ProgramDirectory& directory) {
+  using std::filesystem::file_type;
   std::error_code ignored;
-  const auto type = std::filesystem::status(directory.path, ignored).type();
-  if (directory.isUsersOwn || type == std::filesystem::file_type::directory) return std::nullopt;
-  const bool isThere = std::filesystem::exists(std::filesystem::file_status(type));
-  return isThere ? "\"" + directory.path + "\" ist kein Verzeichnis."
-                 : "Das Verzeichnis \"" + directory.path + "\" gibt es nicht.";
+  const file_type type = std::filesystem::status(directory.path, ignored).type();
+  if (directory.isUsersOwn || type == file_type::directory) return std::nullopt;
+  const std::string name = "\"" + directory.path + "\"";
+  if (type == file_type::not_found) return "Das Verzeichnis " + name + " gibt es nicht.";
+  if (type == file_type::none) return "Das Verzeichnis " + name + " ist nicht zu erreichen.";
+  return name + " ist kein Verzeichnis.";
 }
 
 }  // namespace lifecycle
