@@ -23,7 +23,7 @@
 #include "base/version.h"
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
-#include "editor/document_file.h"
+#include "editor/rtf_reader.h"
 #include "lifecycle/assembly.h"
 #include "lifecycle/first_use.h"
 #include "lifecycle/program_directory.h"
@@ -68,7 +68,10 @@ std::string readText(const std::string& file, const Streams& streams) {
 
 void setLettering(base::RichText& document, const PriceRequest& request, const Streams& streams) {
   if (!request.file) return document.setPlainText(request.text.value_or(""));
-  document.setDocument(editor::readDocumentFile(readText(*request.file, streams)));
+  std::string bytes = readText(*request.file, streams);
+  if (editor::isRtf(bytes)) return document.setDocument(editor::readRtf(bytes));
+  // A plain text is spared the way over a document, which takes more memory than the text.
+  document.setPlainText(base::decoded(std::move(bytes)));
 }
 
 lifecycle::ProgramDirectory chosenDirectory(const PriceRequest& request) {
