@@ -49,16 +49,16 @@ std::size_t partEnd(std::string_view text) {
 }
 
 std::size_t sameHead(std::string_view a, std::string_view b) {
-  const auto end = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first;
-  auto size = static_cast<std::size_t>(end - a.begin());
+  std::size_t size = 0;
+  while (size < a.size() && size < b.size() && a[size] == b[size]) ++size;
   const auto inCharacter = [&](std::string_view text) { return size < text.size() && isContinuation(text[size]); };
   while (size > 0 && (inCharacter(a) || inCharacter(b))) --size;
   return size;
 }
 
 std::size_t sameTail(std::string_view a, std::string_view b) {
-  const auto end = std::mismatch(a.rbegin(), a.rend(), b.rbegin(), b.rend()).first;
-  auto size = static_cast<std::size_t>(end - a.rbegin());
+  std::size_t size = 0;
+  while (size < a.size() && size < b.size() && a[a.size() - 1 - size] == b[b.size() - 1 - size]) ++size;
   while (size > 0 && isContinuation(a[a.size() - size])) --size;
   return size;
 }

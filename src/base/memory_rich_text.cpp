@@ -97,6 +97,7 @@ void MemoryRichText::select(TextSelection selection) {
 std::string MemoryRichText::selectedText() const { return withWindowsLineEnds(selectedPart()); }
 
 void MemoryRichText::replaceSelection(std::string_view text) {
+  if (text.empty() && selectedPart().empty()) return;
   const std::uint32_t format = formatNumber();
   insert(entering(text, format, alignmentAt(startsParagraph(start_.offset) ? end_.offset : start_.offset)));
   if (startsParagraph(end_.offset) && endsParagraph(end_.offset)) setFormatAt(end_.offset, format);

@@ -31,14 +31,14 @@ class Stretches {
 
   /// The value at `index`, which must be within.
   [[nodiscard]] Value at(std::size_t index) const {
-    const_iterator stretch = begin();
+    auto stretch = begin();
     for (; index >= stretch->length; ++stretch) index -= stretch->length;
     return stretch->value;
   }
 
   [[nodiscard]] Stretches slice(std::size_t from, std::size_t to) const {
     Stretches result;
-    for (const_iterator stretch = begin(); stretch != end() && to > 0; ++stretch) {
+    for (auto stretch = begin(); stretch != end() && to > 0; ++stretch) {
       const std::size_t last = to < stretch->length ? to : stretch->length;
       if (from < last) result.append(last - from, stretch->value);
       from -= from < stretch->length ? from : stretch->length;

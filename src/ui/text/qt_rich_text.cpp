@@ -38,7 +38,7 @@ void QtRichText::select(base::TextSelection selection) {
   const TextIndex& index = edit_.index();
   const base::TextCount all = index.countAll();
   const base::TextSelection inside = base::clipped(selection, all.characters + 2 * all.lineEnds);
-  QTextCursor cursor = edit_.textCursor();
+  QTextCursor cursor(edit_.document());  // forgets what would have been typed next
   cursor.setPosition(index.documentPosition(inside.start));
   cursor.setPosition(index.documentPosition(inside.start + inside.length), QTextCursor::KeepAnchor);
   edit_.setTextCursor(cursor);

@@ -134,11 +134,19 @@ QMimeData* RichTextEdit::createMimeDataFromSelection() const {
   return text;
 }
 
-// Only what came in an edit block can be composed within its undo step.
+// Only what came in an edit block can be composed within its undo step. Line ends that come in have the format of the
+// text; the toolkit would give it to the one behind the last line instead of the first.
 void RichTextEdit::insertAsOneStep(const QString& text) {
+  const QScopedValueRollback<bool> brings(bringsFormats_, true);
+  const QTextCharFormat format = formatAtCaret();
   QTextCursor cursor = textCursor();
+  const int start = cursor.selectionStart();
+  const QTextCharFormat lastEnd = document()->findBlock(cursor.selectionEnd()).charFormat();
   cursor.beginEditBlock();
-  cursor.insertText(text, formatAtCaret());
+  cursor.insertText(text, format);
+  const QTextBlock first = document()->findBlock(start);
+  if (first != cursor.block()) giveLineEnd(first, format);
+  giveLineEnd(cursor.block(), cursor.block().length() == 1 ? format : lastEnd);
   cursor.endEditBlock();
   ensureCursorVisible();
 }
@@ -147,6 +155,10 @@ void RichTextEdit::insertAsOneStep(const base::Document& document) {
   const QScopedValueRollback<bool> brings(bringsFormats_, true);
   QTextCursor cursor = textCursor();
   insertDocument(cursor, document);
+  // A cursor of its own, which does not know what would have been typed next.
+  QTextCursor behind(QTextEdit::document());
+  behind.setPosition(cursor.position());
+  setTextCursor(behind);
   ensureCursorVisible();
 }
 
@@ -221,7 +233,6 @@ void RichTextEdit::mergeSelectionFormat(QTextCursor selection, const QTextCharFo
 // of it, and must be known before they are laid out.
 void RichTextEdit::followChange(int from, int /*removed*/, int added) {
   changing_ = true;
-  changeStart_ = from;
   index_.update(from, added);
   decomposed_ = findDecomposed(*document(), from, added);
   const QTextOption::WrapMode mode =
@@ -234,7 +245,7 @@ void RichTextEdit::settleChange() {
   {
     const QScopedValueRollback<bool> settling(settling_, true);
     compose();
-    keepFormats();
+    keepFormat();
   }
   tellChange();
 }
@@ -266,15 +277,11 @@ void RichTextEdit::compose() {
   decomposed_.clear();
 }
 
-// The toolkit forgets the format in which an empty line would be written: what is typed next keeps that of what stood
-// at the caret, and so does the line that was left by a line end. Joined to the step that emptied it, as composing is.
-void RichTextEdit::keepFormats() {
-  if (bringsFormats_ || document()->isRedoAvailable()) return;
-  const QTextBlock here = textCursor().block();
-  const QTextBlock left = document()->findBlock(changeStart_);
-  const bool atCaret = changeStart_ == std::min(lastEnds_.anchor, lastEnds_.position);
-  if (here.length() == 1) giveLineEnd(here, lastFormat_);
-  if (atCaret && left != here) giveLineEnd(left, lastFormat_);
+// The toolkit forgets the format in which an emptied line was written: what is typed next keeps it. Joined to the step
+// that emptied the line, as composing is. What leaves a selection has typed nothing.
+void RichTextEdit::keepFormat() {
+  if (bringsFormats_ || document()->isRedoAvailable() || textCursor().hasSelection()) return;
+  if (textCursor().block().length() == 1) giveLineEnd(textCursor().block(), lastFormat_);
 }
 
 void RichTextEdit::giveLineEnd(const QTextBlock& block, const QTextCharFormat& format) {

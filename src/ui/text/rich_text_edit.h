@@ -72,7 +72,7 @@ class RichTextEdit : public QTextEdit {
   void settleChange();
   void tellChange();
   void compose();
-  void keepFormats();
+  void keepFormat();
   void giveLineEnd(const QTextBlock& block, const QTextCharFormat& format);
   void mergeSelectionFormat(QTextCursor selection, const QTextCharFormat& change);
   void replaceWhole(const std::function<void(QTextCursor&)>& fill);
@@ -85,8 +85,7 @@ class RichTextEdit : public QTextEdit {
   bool changing_ = false;               // the document changes and has not settled
   bool settling_ = false;               // what changes now is our own doing
   bool bringsFormats_ = false;          // the change says itself what formats there are
-  int changeStart_ = 0;
-  Ends lastEnds_;  // when the document had settled last, and the format there
+  Ends lastEnds_;                       // when the document had settled last, and the format there
   QTextCharFormat lastFormat_;
   bool leavesKeys_ = false;
 };
