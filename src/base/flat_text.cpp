@@ -48,21 +48,6 @@ std::size_t partEnd(std::string_view text) {
   return end;
 }
 
-std::size_t sameHead(std::string_view a, std::string_view b) {
-  std::size_t size = 0;
-  while (size < a.size() && size < b.size() && a[size] == b[size]) ++size;
-  const auto inCharacter = [&](std::string_view text) { return size < text.size() && isContinuation(text[size]); };
-  while (size > 0 && (inCharacter(a) || inCharacter(b))) --size;
-  return size;
-}
-
-std::size_t sameTail(std::string_view a, std::string_view b) {
-  std::size_t size = 0;
-  while (size < a.size() && size < b.size() && a[a.size() - 1 - size] == b[b.size() - 1 - size]) ++size;
-  while (size > 0 && isContinuation(a[a.size() - size])) --size;
-  return size;
-}
-
 struct Piece {
   std::size_t begin;
   std::size_t end;
@@ -95,8 +80,8 @@ std::size_t FlatText::composeAt(std::size_t seam, std::size_t caret, const Compo
   const std::string before = composer(text.substr(piece.begin, std::min(caret, piece.end) - piece.begin));
   const std::size_t shown = firstCodePoints(whole, codePointCount(before)).size();
 
-  const std::size_t head = sameHead(cluster, whole);
-  const std::size_t tail = sameTail(std::string_view(cluster).substr(head), std::string_view(whole).substr(head));
+  const std::size_t head = commonHead(cluster, whole);
+  const std::size_t tail = commonTail(std::string_view(cluster).substr(head), std::string_view(whole).substr(head));
   FlatText change;
   change.append(std::string_view(whole).substr(head, whole.size() - head - tail),
                 formats.at(std::min(piece.begin + head, piece.end - 1)));

@@ -7,7 +7,9 @@
 #include <numeric>
 #include <utility>
 
+#include "base/renumbering.h"
 #include "base/text.h"
+#include "base/text_change.h"
 
 namespace base {
 namespace {
@@ -23,27 +25,6 @@ Stretches<Alignment> aligned(std::size_t paragraphs, Alignment alignment) {
   result.append(paragraphs, alignment);
   return result;
 }
-
-// Numbers formats anew in the order of their first use.
-class Renumbering {
- public:
-  Renumbering(const std::vector<CharFormat>& formats, Document& document)
-      : formats_(formats), document_(document), numbers_(formats.size(), kNoNumber) {}
-
-  std::uint32_t operator()(std::uint32_t old) {
-    std::uint32_t& number = numbers_[old];
-    if (number == kNoNumber) {
-      number = static_cast<std::uint32_t>(document_.formats.size());
-      document_.formats.push_back(formats_[old]);
-    }
-    return number;
-  }
-
- private:
-  const std::vector<CharFormat>& formats_;
-  Document& document_;
-  std::vector<std::uint32_t> numbers_;
-};
 
 void appendRun(Paragraph& paragraph, std::string_view text, std::uint32_t format) {
   if (text.empty()) return;
@@ -81,7 +62,7 @@ Document MemoryRichText::selectedDocument() const { return documentOf(start_.off
 void MemoryRichText::setDocument(const Document& document) {
   std::vector<std::uint32_t> numbers(document.formats.size());
   std::iota(numbers.begin(), numbers.end(), 0U);
-  setWhole(entering(document, numbers));
+  setWhole(entering(document, numbers, composer_));
   formats_ = document.formats;
 }
 
@@ -89,9 +70,11 @@ TextSelection MemoryRichText::selection() const { return {start_.position, end_.
 
 void MemoryRichText::select(TextSelection selection) {
   const TextSelection inside = clipped(selection, codePoints(count_));
+  const TextSelection before = this->selection();
   start_ = placeAt(inside.start, {});
   end_ = placeAt(std::max(inside.start + inside.length, start_.position), start_);
   typedNext_.reset();
+  if (listener_ != nullptr && this->selection() != before) listener_->selectionMoved();
 }
 
 std::string MemoryRichText::selectedText() const { return withWindowsLineEnds(selectedPart()); }
@@ -99,14 +82,15 @@ std::string MemoryRichText::selectedText() const { return withWindowsLineEnds(se
 void MemoryRichText::replaceSelection(std::string_view text) {
   if (text.empty() && selectedPart().empty()) return;
   const std::uint32_t format = formatNumber();
-  insert(entering(text, format, alignmentAt(startsParagraph(start_.offset) ? end_.offset : start_.offset)));
-  if (startsParagraph(end_.offset) && endsParagraph(end_.offset)) setFormatAt(end_.offset, format);
+  FlatText piece = entering(text, format, alignmentAt(startsParagraph(start_.offset) ? end_.offset : start_.offset));
+  change([&] {
+    insert(std::move(piece), composer_);
+    if (startsParagraph(end_.offset) && endsParagraph(end_.offset)) setFormatAt(end_.offset, format);
+  });
 }
 
 void MemoryRichText::replaceSelection(const Document& document) {
-  std::vector<std::uint32_t> numbers;
-  for (const CharFormat& format : document.formats) numbers.push_back(numberOf(format));
-  FlatText piece = entering(document, numbers);
+  FlatText piece = entering(document, numbersOf(document.formats), composer_);
   const std::size_t last = lineFeeds(piece.text) - 1;
   const std::uint32_t endFormat = piece.formats.at(piece.text.size() - 1);
   const bool joinsHead = !startsParagraph(start_.offset);
@@ -114,29 +98,42 @@ void MemoryRichText::replaceSelection(const Document& document) {
   const bool lastJoins = joinsTail || (last == 0 && joinsHead);
   if (joinsTail) piece.alignments.replace(last, last + 1, aligned(1, alignmentAt(end_.offset)));
   if (joinsHead) piece.alignments.replace(0, 1, aligned(1, alignment()));
-  insert(std::move(piece));
-  if (!lastJoins) setFormatAt(end_.offset, endFormat);
+  change([&] {
+    insert(std::move(piece), composer_);
+    if (!lastJoins) setFormatAt(end_.offset, endFormat);
+  });
+}
+
+void MemoryRichText::exchange(TextSelection place, const Document& fragment) {
+  select(place);
+  const Composer leaving = {};
+  FlatText piece = entering(fragment, numbersOf(fragment.formats), leaving);
+  const std::uint32_t endFormat = piece.formats.at(piece.text.size() - 1);
+  change([&] {
+    insert(std::move(piece), leaving);
+    setFormatAt(flat_.text.find('\n', end_.offset), endFormat);
+  });
 }
 
 TextCount MemoryRichText::countSelection() const { return countText(selectedPart()); }
 
 CharFormat MemoryRichText::format() const { return formats_[formatNumber()]; }
 
-void MemoryRichText::changeFormat(const FormatChange& change) {
+void MemoryRichText::changeFormat(const FormatChange& asked) {
   const std::size_t begin = start_.offset;
   if (begin == end_.offset) {
-    typedNext_ = numberOf(changed(format(), change));
-    if (startsParagraph(begin) && endsParagraph(begin)) setFormatAt(begin, *typedNext_);
+    typedNext_ = numberOf(changed(format(), asked));
+    if (startsParagraph(begin) && endsParagraph(begin)) change([&] { setFormatAt(begin, *typedNext_); });
     return;
   }
   const std::size_t end = end_.offset == lastLineEnd() ? flat_.text.size() : end_.offset;
   Stretches<std::uint32_t> formats;
   std::vector<std::uint32_t> numbers(formats_.size(), kNoNumber);
   for (const auto& [length, old] : flat_.formats.slice(begin, end)) {
-    if (numbers[old] == kNoNumber) numbers[old] = numberOf(changed(formats_[old], change));
+    if (numbers[old] == kNoNumber) numbers[old] = numberOf(changed(formats_[old], asked));
     formats.append(length, numbers[old]);
   }
-  flat_.formats.replace(begin, end, formats);
+  change([&] { flat_.formats.replace(begin, end, formats); });
   ++revision_;
 }
 
@@ -145,7 +142,7 @@ Alignment MemoryRichText::alignment() const { return alignmentAt(start_.offset);
 void MemoryRichText::setAlignment(Alignment alignment) {
   const std::size_t first = flat_.paragraphOf(start_.offset);
   const std::size_t last = flat_.paragraphOf(std::max(start_.offset, end_.offset - (selectedPart().empty() ? 0 : 1)));
-  flat_.alignments.replace(first, last + 1, aligned(last + 1 - first, alignment));
+  change([&] { flat_.alignments.replace(first, last + 1, aligned(last + 1 - first, alignment)); });
   ++revision_;
 }
 
@@ -170,15 +167,16 @@ FlatText MemoryRichText::entering(std::string_view text, std::uint32_t format, A
 }
 
 // `numbers` are ours for the document's formats.
-FlatText MemoryRichText::entering(const Document& document, const std::vector<std::uint32_t>& numbers) const {
+FlatText MemoryRichText::entering(const Document& document, const std::vector<std::uint32_t>& numbers,
+                                  const Composer& composer) {
   FlatText result;
   for (const Paragraph& paragraph : document.paragraphs) {
     const std::size_t begin = result.text.size();
     std::string_view rest = paragraph.text;
     for (const Run& run : paragraph.runs) {
       const std::size_t seam = result.text.size();
-      result.append(composed(flatLines(rest.substr(0, run.size), Breaks::stayBreaks), composer_), numbers[run.format]);
-      result.composeAt(seam, seam, composer_);
+      result.append(composed(flatLines(rest.substr(0, run.size), Breaks::stayBreaks), composer), numbers[run.format]);
+      result.composeAt(seam, seam, composer);
       rest.remove_prefix(run.size);
     }
     result.append("\n", numbers[paragraph.endFormat]);
@@ -193,10 +191,31 @@ void MemoryRichText::setWhole(FlatText whole) {
   typedNext_.reset();
   count_ = countText(between(0, lastLineEnd()));
   ++revision_;
+  if (listener_ != nullptr) listener_->replaced();
+}
+
+// Tells what `edit` makes of the paragraphs of the selection.
+void MemoryRichText::change(const std::function<void()>& edit) {
+  if (listener_ == nullptr) return edit();
+  const std::size_t begin = paragraphStart(start_.offset);
+  const std::size_t end = flat_.text.find('\n', end_.offset);
+  const std::size_t behind = flat_.text.size() - end;
+  const std::int64_t first = start_.position - codePoints(countText(between(begin, start_.offset)));
+  const TextSelection place = selection();
+  const Document old = documentOf(begin, end);
+  edit();
+  const Document now = documentOf(begin, flat_.text.size() - behind);
+  const std::int64_t caret = std::min(place.start, start_.position) - first;
+  auto change = differenceOf({old.formats, old.paragraphs}, {now.formats, now.paragraphs}, caret);
+  if (!change) return;
+  change->start += first;
+  change->before = place;
+  change->after = selection();
+  listener_->changed(std::move(*change));
 }
 
 // Everything is counted anew within the paragraphs touched. The line end of the last one is there already.
-void MemoryRichText::insert(FlatText piece) {
+void MemoryRichText::insert(FlatText piece, const Composer& composer) {
   piece.text.pop_back();
   piece.formats = piece.formats.slice(0, piece.text.size());
   const std::size_t lineStart = paragraphStart(start_.offset);
@@ -207,8 +226,8 @@ void MemoryRichText::insert(FlatText piece) {
   flat_.alignments.replace(paragraph, paragraph + lineFeeds(selectedPart()) + 1, piece.alignments);
   flat_.replace(start_.offset, end_.offset, piece);
   std::size_t caret = start_.offset + piece.text.size();
-  caret = flat_.composeAt(caret, caret, composer_);
-  caret = flat_.composeAt(start_.offset, caret, composer_);
+  caret = flat_.composeAt(caret, caret, composer);
+  caret = flat_.composeAt(start_.offset, caret, composer);
   count_ = count_ + countText(between(lineStart, flat_.text.size() - behind));
   start_ = end_ = {caret, before + codePoints(countText(between(lineStart, caret)))};
   typedNext_.reset();
@@ -217,7 +236,7 @@ void MemoryRichText::insert(FlatText piece) {
 
 Document MemoryRichText::documentOf(std::size_t begin, std::size_t end) const {
   Document result{.formats = {}, .paragraphs = {Paragraph{}}};
-  Renumbering number(formats_, result);
+  Renumbering number(formats_, result.formats);
   std::size_t offset = begin;
   for (const auto& [length, format] : flat_.formats.slice(begin, end)) {
     appendStretch(result, between(offset, offset + length), number(format));
@@ -267,6 +286,12 @@ std::uint32_t MemoryRichText::numberOf(const CharFormat& format) {
   const auto number = static_cast<std::uint32_t>(found - formats_.begin());
   if (found == formats_.end()) formats_.push_back(format);
   return number;
+}
+
+std::vector<std::uint32_t> MemoryRichText::numbersOf(const std::vector<CharFormat>& formats) {
+  std::vector<std::uint32_t> result;
+  for (const CharFormat& format : formats) result.push_back(numberOf(format));
+  return result;
 }
 
 void MemoryRichText::setFormatAt(std::size_t offset, std::uint32_t format) {

@@ -1,11 +1,12 @@
 // The rich text that lives in memory alone: for the terminal form, for texts that are not shown and for tests.
 //
 // It is kept flat, so that a text of short lines needs no more room than one of long lines; a change may cost time
-// linear in the text, and nothing can be undone.
+// linear in the text.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,11 +41,13 @@ class MemoryRichText : public RichText {
   [[nodiscard]] TextCount countAll() const override { return count_; }
   [[nodiscard]] TextCount countSelection() const override;
   [[nodiscard]] CharFormat format() const override;
-  void changeFormat(const FormatChange& change) override;
+  void changeFormat(const FormatChange& asked) override;
   [[nodiscard]] Alignment alignment() const override;
   void setAlignment(Alignment alignment) override;
+  void exchange(TextSelection place, const Document& fragment) override;
   [[nodiscard]] Caret caret() const override;
   [[nodiscard]] std::uint64_t revision() const override { return revision_; }
+  void tell(TextListener* listener) override { listener_ = listener; }
 
  private:
   /// Between two characters: an offset in the flat text, and the code points of plain text before it.
@@ -54,9 +57,11 @@ class MemoryRichText : public RichText {
   };
 
   [[nodiscard]] FlatText entering(std::string_view text, std::uint32_t format, Alignment alignment) const;
-  [[nodiscard]] FlatText entering(const Document& document, const std::vector<std::uint32_t>& numbers) const;
+  [[nodiscard]] static FlatText entering(const Document& document, const std::vector<std::uint32_t>& numbers,
+                                         const Composer& composer);
   void setWhole(FlatText whole);
-  void insert(FlatText piece);
+  void change(const std::function<void()>& edit);
+  void insert(FlatText piece, const Composer& composer);
   [[nodiscard]] Document documentOf(std::size_t begin, std::size_t end) const;
 
   [[nodiscard]] std::string_view between(std::size_t begin, std::size_t end) const;
@@ -70,6 +75,7 @@ class MemoryRichText : public RichText {
 
   [[nodiscard]] std::uint32_t formatNumber() const;
   [[nodiscard]] std::uint32_t numberOf(const CharFormat& format);
+  [[nodiscard]] std::vector<std::uint32_t> numbersOf(const std::vector<CharFormat>& formats);
   void setFormatAt(std::size_t offset, std::uint32_t format);
 
   Composer composer_;
@@ -80,6 +86,7 @@ class MemoryRichText : public RichText {
   Place end_;
   TextCount count_;
   std::uint64_t revision_ = 0;
+  TextListener* listener_ = nullptr;
 };
 
 }  // namespace base

@@ -64,6 +64,9 @@ struct Caret {
   bool operator==(const Caret&) const = default;
 };
 
+struct TextChange;
+class TextListener;
+
 class RichText {
  public:
   virtual ~RichText() = default;
@@ -76,7 +79,7 @@ class RichText {
   /// The whole text with its formats, and the same for the selection.
   [[nodiscard]] virtual Document document() const = 0;
   [[nodiscard]] virtual Document selectedDocument() const = 0;
-  /// Replaces the whole text with its formats; the caret is at the start, and nothing before can be undone.
+  /// Replaces the whole text with its formats; the caret is at the start.
   virtual void setDocument(const Document& document) = 0;
 
   [[nodiscard]] virtual TextSelection selection() const = 0;
@@ -109,9 +112,17 @@ class RichText {
   /// For every paragraph of which something is selected, its line end included, or that of the caret.
   virtual void setAlignment(Alignment alignment) = 0;
 
+  /// Puts `fragment`, which a TextChange of this text told, in the place of `place` exactly as it was there, even where
+  /// its ends meet the text; the caret is behind it.
+  virtual void exchange(TextSelection place, const Document& fragment) = 0;
+
   [[nodiscard]] virtual Caret caret() const = 0;
   /// Grows with every change of the text; a change of formats alone may count as one.
   [[nodiscard]] virtual std::uint64_t revision() const = 0;
+
+  /// Tells `listener`, which must outlive that, of all that happens to the text from now on, whoever does it; without
+  /// one nobody is told, and the text need not know what it was before.
+  virtual void tell(TextListener* listener) = 0;
 };
 
 }  // namespace base

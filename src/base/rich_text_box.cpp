@@ -13,8 +13,14 @@ void RichTextBox::detach() {
   if (text_ != &memory_) moveInto(memory_);
 }
 
+void RichTextBox::tell(TextListener* listener) {
+  listener_ = listener;
+  text_->tell(listener);
+}
+
 // The format of what is typed next stands in no document.
 void RichTextBox::moveInto(RichText& next) {
+  text_->tell(nullptr);
   const std::uint64_t revisionNow = revision();
   const TextSelection place = selection();
   const CharFormat typedNext = format();
@@ -22,6 +28,7 @@ void RichTextBox::moveInto(RichText& next) {
   next.select(place);
   if (place.length == 0 && next.format() != typedNext) next.setFormat(typedNext);
   text_ = &next;
+  text_->tell(listener_);
   earlierRevisions_ = revisionNow - next.revision();
 }
 

@@ -44,15 +44,19 @@ class RichTextBox : public Control, public RichText {
   void changeFormat(const FormatChange& change) override { text_->changeFormat(change); }
   [[nodiscard]] Alignment alignment() const override { return text_->alignment(); }
   void setAlignment(Alignment alignment) override { text_->setAlignment(alignment); }
+  void exchange(TextSelection place, const Document& fragment) override { text_->exchange(place, fragment); }
   [[nodiscard]] Caret caret() const override { return text_->caret(); }
   /// Attaching and detaching change no text and no revision.
   [[nodiscard]] std::uint64_t revision() const override { return earlierRevisions_ + text_->revision(); }
+  /// Neither do they count as changes to whoever listens.
+  void tell(TextListener* listener) override;
 
  private:
   void moveInto(RichText& next);
 
   MemoryRichText memory_;
   RichText* text_ = &memory_;
+  TextListener* listener_ = nullptr;
   std::uint64_t earlierRevisions_ = 0;
 };
 

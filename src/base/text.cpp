@@ -55,6 +55,21 @@ std::string_view firstCodePoints(std::string_view text, std::size_t count) {
   return text.substr(0, text.size() - rest.size());
 }
 
+std::size_t commonHead(std::string_view a, std::string_view b) {
+  std::size_t size = 0;
+  while (size < a.size() && size < b.size() && a[size] == b[size]) ++size;
+  const auto inCharacter = [&](std::string_view text) { return size < text.size() && isContinuation(text[size]); };
+  while (size > 0 && (inCharacter(a) || inCharacter(b))) --size;
+  return size;
+}
+
+std::size_t commonTail(std::string_view a, std::string_view b) {
+  std::size_t size = 0;
+  while (size < a.size() && size < b.size() && a[a.size() - 1 - size] == b[b.size() - 1 - size]) ++size;
+  while (size > 0 && isContinuation(a[a.size() - size])) --size;
+  return size;
+}
+
 char32_t takeCodePoint(std::string_view& text) {
   const Decoded first = decode(text);
   text.remove_prefix(first.bytes);

@@ -20,6 +20,10 @@ std::size_t codePointCount(std::string_view text);
 /// The first `count` code points of `text`, or all of it when it is shorter.
 std::string_view firstCodePoints(std::string_view text, std::size_t count);
 
+/// How many bytes of whole characters two texts begin or end with alike.
+std::size_t commonHead(std::string_view a, std::string_view b);
+std::size_t commonTail(std::string_view a, std::string_view b);
+
 /// Takes the first code point off `text`, which must not be empty. Ill-formed bytes come as U+FFFD, one each.
 char32_t takeCodePoint(std::string_view& text);
 

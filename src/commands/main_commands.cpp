@@ -6,6 +6,7 @@
 #include "calc/price_database.h"
 #include "calc/running_sum.h"
 #include "commands/file_commands.h"
+#include "commands/undo_commands.h"
 #include "editor/character_format.h"
 #include "editor/editing.h"
 
@@ -27,7 +28,7 @@ void wireDocument(Wiring& wiring, const MainParts& parts) {
 void wireFormat(Wiring& wiring, const MainParts& parts) {
   const auto format = [&](const base::Control& control, std::string_view tag, auto apply) {
     wiring.on(control, Event::click, reported(parts, tag, [apply](const MainParts& p) {
-                apply(p.window, p.window.rtfText);
+                inOneStep(p, [&](const MainParts&) { apply(p.window, p.window.rtfText); });
                 calculate(p);
               }));
   };
@@ -38,11 +39,11 @@ void wireFormat(Wiring& wiring, const MainParts& parts) {
   format(parts.window.cmdUnterstrichen, "MAIN-cmdUnterstrichen_Click", editor::applyUnderline);
 }
 
-// Each editing command is followed by the calculation.
+// Each editing command is one step that can be undone, and followed by the calculation.
 void wireEditing(Wiring& wiring, const MainParts& parts) {
   const auto edit = [&](const base::MenuEntry& entry, std::string_view tag, auto command) {
     wiring.on(entry, Event::click, reported(parts, tag, [command](const MainParts& p) {
-                command(p);
+                inOneStep(p, command);
                 editor::showFormat(p.window, p.window.rtfText);
                 calculate(p);
               }));
@@ -167,6 +168,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireFormat(wiring, parts);
   wireEditing(wiring, parts);
   wireFiles(wiring, parts);
+  wireUndo(wiring, parts);
   wireProgram(wiring, parts);
   wireHeightAndQuantity(wiring, parts);
   wireAdjustmentLists(wiring, parts);

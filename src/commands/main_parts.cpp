@@ -11,6 +11,10 @@ calc::CalcParts calcParts(const MainParts& parts) {
           .format = parts.platform.numberFormat()};
 }
 
-void calculate(const MainParts& parts) { calc::Calc(calcParts(parts)); }
+void calculate(const MainParts& parts) {
+  calc::Calc(calcParts(parts));
+  parts.window.mnuUndo.enabled = parts.results.TextLength >= 1 && parts.undo.canUndo();
+  parts.window.mnuRedo.enabled = parts.undo.canRedo();
+}
 
 }  // namespace commands

@@ -8,6 +8,7 @@
 #include "calc/calc.h"
 #include "calc/picker.h"
 #include "editor/open_document.h"
+#include "editor/undo_store.h"
 #include "errors/reporting.h"
 #include "frame/main_window.h"
 #include "settings/settings.h"
@@ -21,6 +22,7 @@ struct MainParts {
   settings::Paths& paths;
   frame::CalcResults& results;
   editor::OpenDocument& document;
+  editor::UndoStore& undo;
   calc::PickerWindow& picker;
   base::Platform& platform;
   errors::Reporter& reporter;
@@ -32,10 +34,18 @@ base::Wiring::Procedure reported(const MainParts& parts, std::string_view tag, P
   return [parts, tag, procedure] { errors::reporting(parts.reporter, tag, [&] { procedure(parts); }); };
 }
 
+/// A command of which one undo takes everything back.
+template <typename Command>
+void inOneStep(const MainParts& parts, Command command) {
+  const editor::UndoStore::Group step(parts.undo);
+  command(parts);
+}
+
 /// The parts that the calculation takes of all these.
 calc::CalcParts calcParts(const MainParts& parts);
 
-/// Runs the calculation; a failure is the caller's.
+/// Runs the calculation and offers undo and redo as far as there is something; undo wants a lettering, as the other
+/// document commands do. A failure is the caller's.
 void calculate(const MainParts& parts);
 
 }  // namespace commands

@@ -18,6 +18,7 @@ MainWindow::MainWindow() : Window("frmMain") {
     label->text = "nur Markierung";
     label->visible = false;
   }
+  mnuUndo.enabled = mnuRedo.enabled = false;
   lblRCalc.text = "0.00 EUR";
   lblRCalc.toolTip = "Gesamtsumme des Rechners: " + lblRCalc.text;
 }

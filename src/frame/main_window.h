@@ -69,6 +69,8 @@ namespace frame {
   CONTROL(base::Button, cmdSave)                                                               \
   CONTROL(base::MenuEntry, mnuLastFile)                                                        \
   CONTROL(base::MenuEntry, mnuExit)                                                            \
+  CONTROL(base::MenuEntry, mnuUndo)                                                            \
+  CONTROL(base::MenuEntry, mnuRedo)                                                            \
   CONTROL(base::MenuEntry, mnuCut)                                                             \
   CONTROL(base::MenuEntry, mnuCopy)                                                            \
   CONTROL(base::MenuEntry, mnuPaste)                                                           \

@@ -19,6 +19,7 @@ commands::MainParts partsOf(Program& program) {
           .paths = program.paths,
           .results = program.results,
           .document = program.document,
+          .undo = program.undo,
           .picker = program.windows.picker,
           .platform = program.platform,
           .reporter = program.reporter};

@@ -8,6 +8,7 @@
 #include "base/rich_text_box.h"
 #include "base/text.h"
 #include "support/rich_text_contract.h"
+#include "support/undo_contract.h"
 
 namespace support {
 namespace {

@@ -13,7 +13,9 @@
 #include <vector>
 
 #include "base/text.h"
+#include "editor/undo_store.h"
 #include "support/rich_text_contract.h"
+#include "support/undo_contract.h"
 #include "ui/text/qt_rich_text.h"
 #include "ui/text/rich_text_edit.h"
 #include "ui/utf8.h"
@@ -24,6 +26,11 @@ namespace {
 struct Screen {
   ui::RichTextEdit edit;
   ui::QtRichText text{edit};
+};
+
+struct UndoScreen : Screen {
+  std::string depth = "99";
+  editor::UndoStore undo{text, depth};
 };
 
 std::shared_ptr<base::RichText> makeQtRichText() {
@@ -55,13 +62,11 @@ TEST(RichTextEdit, composesInTheUndoStepThatBroughtTheText) {
     QString input;  // a lone mark is typed, \b erases, more is committed by an input method
     std::string after;
     std::int64_t caret;
-    int undoSteps = 1;
   };
   const std::vector<Row> rows = {
       {"xay", {2, 0}, "\u0308", "xäy", 2},   {"xay", {2, 1}, "\u0308", "xä", 2},
       {"xay", {2, 0}, "\u0308b", "xäby", 3}, {"q\u0308", {0, 1}, "A\u030A", "Å\u0308", 1},
-      {"aq\u0308", {2, 0}, "\b", "ä", 1, 2},  // the toolkit joins nothing to a single erased character
-      {"a\nq\u0308", {1, 3}, "\b", "ä", 1},
+      {"aq\u0308", {2, 0}, "\b", "ä", 1},    {"a\nq\u0308", {1, 3}, "\b", "ä", 1},
   };
   const auto change = [](ui::RichTextEdit& edit, const Row& row) {
     if (row.input == "\u0308") return sendMark(edit);
@@ -71,7 +76,7 @@ TEST(RichTextEdit, composesInTheUndoStepThatBroughtTheText) {
     QApplication::sendEvent(&edit, &event);
   };
   for (const Row& row : rows) {
-    Screen screen;
+    UndoScreen screen;
     screen.text.setPlainText(row.before);
     const std::string before = screen.text.plainText();
     screen.text.select(row.place);
@@ -83,9 +88,9 @@ TEST(RichTextEdit, composesInTheUndoStepThatBroughtTheText) {
     EXPECT_EQ(screen.text.plainText(), row.after);
     EXPECT_EQ(screen.text.selection(), (base::TextSelection{row.caret, 0})) << row.after;
     EXPECT_EQ(edited.count(), 1) << row.after;
-    for (int i = 0; i < row.undoSteps; ++i) screen.edit.undo();
+    screen.undo.undo();
     EXPECT_EQ(screen.text.plainText(), before);
-    for (int i = 0; i < row.undoSteps; ++i) screen.edit.redo();
+    screen.undo.redo();
     EXPECT_EQ(screen.text.plainText(), row.after);
   }
 }
@@ -103,13 +108,13 @@ TEST(RichTextEdit, composesWhatAProgramWritesAndLeavesTheCaretAlone) {
                                  {0, 1, "\u0308", "äbc", 0},
                                  {1, 2, "\u0308\u0323", "aḅ\u0308c", 1}};
   for (const Row& row : rows) {
-    Screen screen;
+    UndoScreen screen;
     screen.text.setPlainText("abc");
     screen.text.select({row.caret, 0});
     insertDirectly(screen.edit, row.place, row.written);
     EXPECT_EQ(screen.text.selection(), (base::TextSelection{row.caretAfter, 0})) << row.after;
     EXPECT_EQ(screen.text.plainText(), row.after);
-    for (int i = 0; i < 2; ++i) screen.edit.undo();
+    screen.undo.undo();
     EXPECT_EQ(screen.text.plainText(), "abc");
   }
 }
@@ -130,7 +135,7 @@ TEST(RichTextEdit, pastesPlainTextInTheFormatOfTheCaret) {
       {"", "", ""},
   };
   for (const Row& row : rows) {
-    Screen screen;
+    UndoScreen screen;
     const base::CharFormat format{.family = "Courier New", .points = 30};
     screen.text.setFormat(format);
     auto* const source = new QMimeData;
@@ -142,12 +147,12 @@ TEST(RichTextEdit, pastesPlainTextInTheFormatOfTheCaret) {
     EXPECT_EQ(screen.text.plainText(), row.expected) << row.expected;
     EXPECT_EQ(screen.text.format(), format) << row.expected;
     if (row.expected.empty()) continue;
-    screen.edit.undo();
+    screen.undo.undo();
     EXPECT_EQ(screen.text.plainText(), "") << row.expected;
   }
 }
 
-// \b erases, < goes to the start of the line, ^ selects all, v pastes.
+// \b erases, # forwards, < goes to the start of the line, ^ selects all, v pastes.
 void typeKeys(ui::RichTextEdit& edit, const QString& keys) {
   for (const QChar key : keys) {
     if (key == '\n') {
@@ -156,6 +161,8 @@ void typeKeys(ui::RichTextEdit& edit, const QString& keys) {
       QTest::keyClick(&edit, Qt::Key_Backspace);
     } else if (key == '<') {
       QTest::keyClick(&edit, Qt::Key_Home);
+    } else if (key == '#') {
+      QTest::keyClick(&edit, Qt::Key_Delete);
     } else if (key == '^') {
       QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
     } else if (key == 'v') {
@@ -180,7 +187,7 @@ TEST(RichTextEdit, linesKeepTheFormatThatWasTypedBefore) {
   const base::CharFormat start{.family = "Arial", .points = 24};
   const base::CharFormat chosen{.family = "Courier New", .points = 30, .bold = true};
   for (const Row& row : rows) {
-    Screen screen;
+    UndoScreen screen;
     QApplication::clipboard()->setText("1\n\n2\n");
     screen.text.setFormat(start);
     typeKeys(screen.edit, "x");
@@ -190,7 +197,7 @@ TEST(RichTextEdit, linesKeepTheFormatThatWasTypedBefore) {
     typeKeys(screen.edit, row.keys);
     EXPECT_EQ(screen.text.plainText(), row.text);
     EXPECT_EQ(screen.text.document().formats, std::vector{chosen}) << row.text;
-    while (screen.edit.document()->isUndoAvailable()) screen.edit.undo();
+    while (screen.undo.canUndo()) screen.undo.undo();
     EXPECT_EQ(screen.text.plainText(), "") << row.text;
   }
 }
@@ -209,8 +216,38 @@ TEST(RichTextEdit, aFormatChosenInAnEmptyLineStaysThere) {
   EXPECT_EQ(screen.text.format().points, 8);
 }
 
+TEST(RichTextEdit, aStepIsWhatAPersonWouldCallOne) {
+  struct Row {
+    QString keys;
+    std::vector<std::string> undone;  // from what was written to the start
+  };
+  const std::vector<Row> rows = {
+      {"Auto Haus", {"xAuto Haus", "xAuto", "x"}},
+      {"A  B\tC", {"xA  B\tC", "xA  B", "xA", "x"}},
+      {"A\n\nB", {"xA\r\n\r\nB", "xA\r\n", "xA", "x"}},
+      {"AB<CD", {"CDxAB", "xAB", "x"}},
+      {"AB CD\b\b\b\b\b", {"x", "xAB", "xAB CD", "xAB", "x"}},
+      {"A\nB\b\bC", {"xAC", "xA", "xA\r\nB", "xA", "x"}},
+      {"A^B C", {"B C", "B", "xA", "x"}},
+      {"A<##", {"", "xA", "x"}},
+      {"AvC", {"xA1\r\n\r\n2\r\nC", "xA1\r\n\r\n2\r\n", "xA", "x"}},
+  };
+  for (const Row& row : rows) {
+    UndoScreen screen;
+    QApplication::clipboard()->setText("1\n\n2\n");
+    screen.text.setPlainText("x");
+    screen.edit.moveCursor(QTextCursor::End);
+    typeKeys(screen.edit, row.keys);
+    std::vector<std::string> undone = {screen.text.plainText()};
+    for (; screen.undo.canUndo() && undone.size() < 9; undone.push_back(screen.text.plainText())) screen.undo.undo();
+    EXPECT_EQ(undone, row.undone);
+    while (screen.undo.canRedo()) screen.undo.redo();
+    EXPECT_EQ(screen.text.plainText(), row.undone.front());
+  }
+}
+
 TEST(RichTextEdit, aLongUnbrokenRunIsBrokenAnywhere) {
-  Screen screen;
+  UndoScreen screen;
   const auto mode = [&] { return screen.edit.wordWrapMode(); };
   std::string runs(10'000, 'a');
   runs.append(" ").append(10'000, 'b').append("\nc");
@@ -224,7 +261,7 @@ TEST(RichTextEdit, aLongUnbrokenRunIsBrokenAnywhere) {
   screen.text.select({10'000, 1});
   typeKeys(screen.edit, "x");
   EXPECT_EQ(mode(), QTextOption::WrapAnywhere);
-  screen.edit.undo();
+  screen.undo.undo();
   EXPECT_EQ(mode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
   screen.text.replaceSelection("x");
   screen.text.setPlainText("");
@@ -274,7 +311,7 @@ TEST(RichTextEdit, answersWhileTheWholeTextIsReplaced) {
 }
 
 TEST(RichTextEdit, tellsOnceWhatHappened) {
-  Screen screen;
+  UndoScreen screen;
   const QSignalSpy edited(&screen.edit, &ui::RichTextEdit::edited);
   const QSignalSpy moved(&screen.edit, &ui::RichTextEdit::caretMoved);
   const QSignalSpy released(&screen.edit, &ui::RichTextEdit::released);
@@ -320,10 +357,10 @@ class Walker {
  public:
   explicit Walker(unsigned seed) : random_(seed) {}
 
-  void step(Screen& screen) {
+  void step(UndoScreen& screen) {
     const int choice = upTo(12);
-    if (choice == 0) return screen.edit.undo();
-    if (choice == 1) return screen.edit.redo();
+    if (choice == 0) return screen.undo.undo();
+    if (choice == 1) return screen.undo.redo();
     if (choice == 2) return QTest::keyClick(&screen.edit, Qt::Key_Backspace);
     if (choice == 3)
       return QTest::keyClick(&screen.edit, Qt::Key_Return, upTo(1) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
@@ -378,7 +415,7 @@ class Walker {
 
 TEST(RichTextEdit, countsStayRightUnderAnyEdits) {
   for (const unsigned seed : {1U, 2U, 3U}) {
-    Screen screen;
+    UndoScreen screen;
     Walker walker(seed);
     screen.text.setPlainText(walker.piece(3000));
     for (int step = 0; step < 1500; ++step) {

@@ -69,6 +69,32 @@ TEST(Walk, AnOrderIsPricedKeyByKeyAndTheSettingsOutliveTheProgram) {
   again.leave();
 }
 
+TEST(Walk, WordsAreUndoneAndRedoneByTheirKeysAndPricedAnew) {
+  const Shop shop;
+  Walk walk(shop);
+  struct Keys {
+    QKeyCombination undo;
+    QKeyCombination redo;
+  };
+  for (const Keys& keys : {Keys{Qt::CTRL | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
+                           Keys{Qt::ALT | Qt::Key_Backspace, Qt::CTRL | Qt::SHIFT | Qt::Key_Z}}) {
+    walk.fill("rtfText", "Auto Haus");
+    EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "9,00 EUR");
+    walk.press(keys.undo.key(), keys.undo.keyboardModifiers());
+    EXPECT_EQ(walk.text("rtfText") + " " + walk.text("lblPreisNettoGesamt"), "Auto 4,00 EUR");
+    walk.press(keys.redo.key(), keys.redo.keyboardModifiers());
+    EXPECT_EQ(walk.text("rtfText") + " " + walk.text("lblPreisNettoGesamt"), "Auto Haus 9,00 EUR");
+    walk.press(keys.redo.key(), keys.redo.keyboardModifiers());
+    EXPECT_EQ(walk.text("rtfText"), "Auto Haus");
+  }
+  // A box that has the focus undoes its own.
+  walk.fill("txtStück", "23");
+  walk.press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(walk.text("rtfText"), "Auto Haus");
+  EXPECT_NE(walk.text("txtStück"), "23");
+  walk.close();
+}
+
 // 8 characters at 10 pieces of 1.00: a net price of 80.00.
 TEST(Walk, TheFourAmountBoxesTakeWhatTheyMayAndKeepInStep) {
   const Shop shop;

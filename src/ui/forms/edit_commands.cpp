@@ -13,6 +13,8 @@
 namespace ui {
 namespace {
 
+constexpr bool kBeginsPart = true;
+
 QAction* separator(QObject& owner) {
   auto* const line = new QAction(&owner);
   line->setSeparator(true);
@@ -24,34 +26,20 @@ QLineEdit* lineOf(QWidget* widget) {
   return qobject_cast<QLineEdit*>(widget);
 }
 
-// Undo keeps the keys of the text edit, which answers them before any action is asked.
-QList<QAction*> undoCommands(QTextEdit& document) {
-  auto* const undo =
-      new QAction(QIcon::fromTheme(QStringLiteral("edit-undo")), QStringLiteral("&Rückgängig"), &document);
-  auto* const redo =
-      new QAction(QIcon::fromTheme(QStringLiteral("edit-redo")), QStringLiteral("&Wiederholen"), &document);
-  undo->setShortcut(QKeySequence::Undo);
-  redo->setShortcut(QKeySequence::Redo);
-  QObject::connect(undo, &QAction::triggered, &document, &QTextEdit::undo);
-  QObject::connect(redo, &QAction::triggered, &document, &QTextEdit::redo);
-  QObject::connect(&document, &QTextEdit::undoAvailable, undo, &QAction::setEnabled);
-  QObject::connect(&document, &QTextEdit::redoAvailable, redo, &QAction::setEnabled);
-  for (QAction* const command : {undo, redo}) {
-    command->setShortcutContext(Qt::WidgetShortcut);
-    command->setEnabled(false);
-  }
-  return {undo, redo};
-}
-
 }  // namespace
 
 EditCommands::EditCommands(QMainWindow& window, const Ui::MainWindowForm& drawn)
     : QObject(&window),
-      commands_({{drawn.fixCut, drawn.mnuCut, [](QLineEdit& line) { line.cut(); }},
+      commands_({{drawn.fixUndo, drawn.mnuUndo, [](QLineEdit& line) { line.undo(); }},
+                 {drawn.fixRedo, drawn.mnuRedo, [](QLineEdit& line) { line.redo(); }},
+                 {drawn.fixCut, drawn.mnuCut, [](QLineEdit& line) { line.cut(); }, kBeginsPart},
                  {drawn.fixCopy, drawn.mnuCopy, [](QLineEdit& line) { line.copy(); }},
                  {drawn.fixPaste, drawn.mnuPaste, [](QLineEdit& line) { line.paste(); }},
                  {drawn.fixDelete, drawn.mnuDelete, [](QLineEdit& line) { line.del(); }},
-                 {drawn.fixMarkAll, drawn.mnuMarkAll, [](QLineEdit& line) { line.selectAll(); }}}) {
+                 {drawn.fixMarkAll, drawn.mnuMarkAll, [](QLineEdit& line) { line.selectAll(); }, kBeginsPart}}) {
+  // The same on every desktop, whichever of these its own are.
+  drawn.fixUndo->setShortcuts({Qt::CTRL | Qt::Key_Z, Qt::ALT | Qt::Key_Backspace});
+  drawn.fixRedo->setShortcuts({Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z});
   drawn.fixCut->setShortcuts(QKeySequence::Cut);
   drawn.fixCopy->setShortcuts(QKeySequence::Copy);
   drawn.fixPaste->setShortcuts(QKeySequence::Paste);
@@ -68,13 +56,11 @@ EditCommands::EditCommands(QMainWindow& window, const Ui::MainWindowForm& drawn)
 }
 
 void EditCommands::offerInContextMenus(QMainWindow& window, QTextEdit& document) {
-  document.addActions(undoCommands(document));
-  document.addAction(separator(document));
   QList<QWidget*> texts{&document};
   for (QLineEdit* const line : window.findChildren<QLineEdit*>()) texts.append(line);
   for (QWidget* const text : texts) {
     for (const Command& command : commands_) {
-      if (command.shown == commands_.back().shown) text->addAction(separator(*text));
+      if (command.beginsPart) text->addAction(separator(*text));
       text->addAction(command.shown);
     }
     text->setContextMenuPolicy(Qt::ActionsContextMenu);

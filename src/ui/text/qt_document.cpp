@@ -1,12 +1,9 @@
 // Documents of the logic put into those of the toolkit and taken out again.
 #include "ui/text/qt_document.h"
 
-#include <QTextBlock>
-#include <QTextFragment>
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
-#include <vector>
 
 #include "ui/text/qt_formats.h"
 #include "ui/text/text_entry.h"
@@ -89,62 +86,63 @@ class Inserter {
   std::vector<QTextCharFormat> formats_;
 };
 
-// Collects paragraphs; each format of the toolkit is converted once.
-class Collector {
- public:
-  Collector(int begin, int end) : begin_(begin), end_(end) { result_.formats.clear(), result_.paragraphs.clear(); }
-
-  void add(const QTextBlock& block) {
-    base::Paragraph& paragraph = result_.paragraphs.emplace_back();
-    for (auto i = block.begin(); !i.atEnd(); ++i) add(paragraph, i.fragment());
-    paragraph.endFormat = number(block);
-    paragraph.alignment = alignmentOf(block.blockFormat());
-  }
-
-  base::Document take() { return std::move(result_); }
-
- private:
-  void add(base::Paragraph& paragraph, const QTextFragment& fragment) {
-    const int from = std::max(fragment.position(), begin_);
-    const int to = std::min(fragment.position() + fragment.length(), end_);
-    if (from >= to) return;
-    const QString text = cleanedText(fragment.text().mid(from - fragment.position(), to - from));
-    const QByteArray bytes = text.toUtf8();
-    if (bytes.isEmpty()) return;
-    paragraph.text.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    paragraph.runs.push_back({static_cast<std::uint32_t>(bytes.size()), number(fragment)});
-  }
-
-  // Of a block or fragment.
-  template <typename Part>
-  std::uint32_t number(const Part& part) {
-    const auto index = static_cast<std::size_t>(part.charFormatIndex());
-    if (numbers_.size() <= index) numbers_.resize(index + 1, kNone);
-    if (numbers_[index] == kNone) {
-      numbers_[index] = static_cast<std::uint32_t>(result_.formats.size());
-      result_.formats.push_back(fromQt(part.charFormat()));
-    }
-    return numbers_[index];
-  }
-
-  static constexpr std::uint32_t kNone = 0xFFFFFFFF;
-
-  int begin_;
-  int end_;
-  base::Document result_;
-  std::vector<std::uint32_t> numbers_;
-};
-
 }  // namespace
+
+base::Paragraph ParagraphReader::read(const QTextBlock& block, int begin, int end) {
+  base::Paragraph result;
+  for (auto i = block.begin(); !i.atEnd(); ++i) add(result, i.fragment(), begin, end);
+  result.endFormat = number(block);
+  result.alignment = alignmentOf(block.blockFormat());
+  return result;
+}
+
+void ParagraphReader::add(base::Paragraph& paragraph, const QTextFragment& fragment, int begin, int end) {
+  const int from = std::max(fragment.position(), begin);
+  const int to = std::min(fragment.position() + fragment.length(), end);
+  if (from >= to) return;
+  const QByteArray bytes = cleanedText(fragment.text().mid(from - fragment.position(), to - from)).toUtf8();
+  if (bytes.isEmpty()) return;
+  paragraph.text.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+  paragraph.runs.push_back({static_cast<std::uint32_t>(bytes.size()), number(fragment)});
+}
+
+// Of a block or fragment; each format of the toolkit is converted once.
+template <typename Part>
+std::uint32_t ParagraphReader::number(const Part& part) {
+  const auto index = static_cast<std::size_t>(part.charFormatIndex());
+  const QTextCharFormat format = part.charFormat();
+  if (known_.size() <= index) known_.resize(index + 1);
+  Known& known = known_[index];
+  if (!known.format.isValid() || known.format != format) {
+    known = {format, static_cast<std::uint32_t>(formats_.size())};
+    formats_.push_back(fromQt(format));
+  }
+  return known.number;
+}
 
 void insertDocument(QTextCursor& cursor, const base::Document& document) { Inserter(cursor, document).run(); }
 
+// Unlike a document that enters, a fragment brings the formats of the paragraphs that its ends meet.
+void exchangeSelection(QTextCursor& cursor, const base::Document& fragment) {
+  const int start = cursor.selectionStart();
+  cursor.beginEditBlock();
+  insertDocument(cursor, fragment);
+  QTextCursor first(cursor.document());
+  first.setPosition(start);
+  first.mergeBlockFormat(toQt(fragment.paragraphs.front().alignment));
+  cursor.mergeBlockFormat(toQt(fragment.paragraphs.back().alignment));
+  cursor.setBlockCharFormat(toQt(fragment.formats[fragment.paragraphs.back().endFormat]));
+  cursor.endEditBlock();
+}
+
 base::Document documentBetween(const QTextDocument& document, int begin, int end) {
-  Collector collector(begin, end);
+  ParagraphReader reader;
+  base::Document result{.formats = {}, .paragraphs = {}};
   for (QTextBlock block = document.findBlock(begin); block.isValid() && block.position() <= end; block = block.next()) {
-    collector.add(block);
+    result.paragraphs.push_back(reader.read(block, begin, end));
   }
-  return collector.take();
+  result.formats = reader.takeFormats();
+  return result;
 }
 
 }  // namespace ui

@@ -27,13 +27,6 @@ base::Document QtRichText::selectedDocument() const {
   return documentBetween(*edit_.document(), cursor.selectionStart(), cursor.selectionEnd());
 }
 
-base::TextSelection QtRichText::selection() const {
-  const QTextCursor cursor = edit_.textCursor();
-  const std::int64_t start = edit_.index().position(cursor.selectionStart());
-  if (!cursor.hasSelection()) return {start, 0};
-  return {start, edit_.index().position(cursor.selectionEnd()) - start};
-}
-
 void QtRichText::select(base::TextSelection selection) {
   const TextIndex& index = edit_.index();
   const base::TextCount all = index.countAll();
@@ -71,6 +64,11 @@ void QtRichText::setAlignment(base::Alignment alignment) {
   cursor.setPosition(start);
   cursor.setPosition(lastSelected, QTextCursor::KeepAnchor);
   cursor.mergeBlockFormat(toQt(alignment));
+}
+
+void QtRichText::exchange(base::TextSelection place, const base::Document& fragment) {
+  const TextIndex& index = edit_.index();
+  edit_.exchange(index.documentPosition(place.start), index.documentPosition(place.start + place.length), fragment);
 }
 
 base::Caret QtRichText::caret() const { return edit_.index().caret(edit_.textCursor().position()); }

@@ -19,7 +19,7 @@ class QtRichText : public base::RichText {
   [[nodiscard]] base::Document document() const override;
   [[nodiscard]] base::Document selectedDocument() const override;
   void setDocument(const base::Document& document) override { edit_.setWhole(document); }
-  [[nodiscard]] base::TextSelection selection() const override;
+  [[nodiscard]] base::TextSelection selection() const override { return edit_.selection(); }
   void select(base::TextSelection selection) override;
   [[nodiscard]] std::string selectedText() const override;
   void replaceSelection(std::string_view text) override;
@@ -30,8 +30,10 @@ class QtRichText : public base::RichText {
   void changeFormat(const base::FormatChange& change) override;
   [[nodiscard]] base::Alignment alignment() const override;
   void setAlignment(base::Alignment alignment) override;
+  void exchange(base::TextSelection place, const base::Document& fragment) override;
   [[nodiscard]] base::Caret caret() const override;
   [[nodiscard]] std::uint64_t revision() const override { return edit_.index().revision(); }
+  void tell(base::TextListener* listener) override { edit_.tell(listener); }
 
  private:
   RichTextEdit& edit_;

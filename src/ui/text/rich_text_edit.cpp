@@ -48,6 +48,7 @@ int mapped(int position, const Decomposed& piece) {
 
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), index_(*document()) {
   setAcceptRichText(false);
+  document()->setUndoRedoEnabled(false);
   const QTextCharFormat fresh = toQt(base::CharFormat{});
   document()->setDefaultFont(fresh.font());
   QTextCursor(document()).setBlockCharFormat(fresh);
@@ -58,11 +59,23 @@ RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), index_(*documen
   connect(this, &QTextEdit::selectionChanged, this, &RichTextEdit::noteCaret);
 }
 
+void RichTextEdit::tell(base::TextListener* listener) {
+  watch_.reset();
+  if (listener != nullptr) watch_.emplace(*document(), index_, *listener, selection());
+}
+
+base::TextSelection RichTextEdit::selection() const {
+  const QTextCursor cursor = textCursor();
+  const std::int64_t start = index_.position(cursor.selectionStart());
+  if (!cursor.hasSelection()) return {start, 0};
+  return {start, index_.position(cursor.selectionEnd()) - start};
+}
+
 bool RichTextEdit::isLeftToCommands(const QKeyEvent& key) const {
   if (!leavesKeys_) return false;
   if (key.matches(QKeySequence::Delete)) return textCursor().hasSelection();
   return key.matches(QKeySequence::Cut) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
-         key.matches(QKeySequence::SelectAll);
+         key.matches(QKeySequence::SelectAll) || key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
 }
 
 bool RichTextEdit::event(QEvent* event) {
@@ -134,8 +147,8 @@ QMimeData* RichTextEdit::createMimeDataFromSelection() const {
   return text;
 }
 
-// Only what came in an edit block can be composed within its undo step. Line ends that come in have the format of the
-// text; the toolkit would give it to the one behind the last line instead of the first.
+// Line ends that come in have the format of the text; the toolkit would give it to the one behind the last line instead
+// of the first.
 void RichTextEdit::insertAsOneStep(const QString& text) {
   const QScopedValueRollback<bool> brings(bringsFormats_, true);
   const QTextCharFormat format = formatAtCaret();
@@ -176,11 +189,21 @@ void RichTextEdit::setWhole(const base::Document& document) {
   replaceWhole([&](QTextCursor& cursor) { insertDocument(cursor, document); });
 }
 
-// Nobody is told before the caret is at the start.
+void RichTextEdit::exchange(int begin, int end, const base::Document& fragment) {
+  settleQuietly([&] {
+    QTextCursor cursor(document());
+    cursor.setPosition(begin);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    exchangeSelection(cursor, fragment);
+    setTextCursor(cursor);
+  });
+  decomposed_.clear();
+  if (watch_) watch_->settle(selection());
+  tellChange();
+}
+
 void RichTextEdit::replaceWhole(const std::function<void(QTextCursor&)>& fill) {
-  document()->setUndoRedoEnabled(false);
-  {
-    const QScopedValueRollback<bool> settling(settling_, true);
+  settleQuietly([&] {
     QTextCursor cursor(document());
     cursor.beginEditBlock();
     cursor.select(QTextCursor::Document);
@@ -188,9 +211,15 @@ void RichTextEdit::replaceWhole(const std::function<void(QTextCursor&)>& fill) {
     cursor.endEditBlock();
     compose();
     setTextCursor(QTextCursor(document()));
-  }
-  document()->setUndoRedoEnabled(true);
+  });
+  if (watch_) watch_->settleAnew(selection());
   tellChange();
+}
+
+// Nobody is told before the caret is where it belongs.
+void RichTextEdit::settleQuietly(const std::function<void()>& edit) {
+  const QScopedValueRollback<bool> settling(settling_, true);
+  edit();
 }
 
 QTextCharFormat RichTextEdit::formatAtCaret() const {
@@ -234,6 +263,7 @@ void RichTextEdit::mergeSelectionFormat(QTextCursor selection, const QTextCharFo
 void RichTextEdit::followChange(int from, int /*removed*/, int added) {
   changing_ = true;
   index_.update(from, added);
+  if (watch_) watch_->note(from, added);
   decomposed_ = findDecomposed(*document(), from, added);
   const QTextOption::WrapMode mode =
       index_.hasLongRun() ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
@@ -247,6 +277,7 @@ void RichTextEdit::settleChange() {
     compose();
     keepFormat();
   }
+  if (watch_) watch_->settle(selection());
   tellChange();
 }
 
@@ -256,14 +287,12 @@ void RichTextEdit::tellChange() {
   noteCaret();
 }
 
-// Joined to the step that brought the text, so that one undo takes both back. What undo and redo bring stays, or they
-// would lead nowhere; a redo is available after them alone.
 void RichTextEdit::compose() {
   const std::vector<Decomposed> pieces = std::exchange(decomposed_, {});
-  if (pieces.empty() || document()->isRedoAvailable()) return;
+  if (pieces.empty()) return;
   Ends wanted = ends();
   QTextCursor cursor(document());
-  cursor.joinPreviousEditBlock();
+  cursor.beginEditBlock();
   for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece) {
     cursor.setPosition(piece->position + 1);
     const QTextCharFormat format = cursor.charFormat();
@@ -277,19 +306,15 @@ void RichTextEdit::compose() {
   decomposed_.clear();
 }
 
-// The toolkit forgets the format in which an emptied line was written: what is typed next keeps it. Joined to the step
-// that emptied the line, as composing is. What leaves a selection has typed nothing.
+// The toolkit forgets the format in which an emptied line was written: what is typed next keeps it. What leaves a
+// selection has typed nothing.
 void RichTextEdit::keepFormat() {
-  if (bringsFormats_ || document()->isRedoAvailable() || textCursor().hasSelection()) return;
+  if (bringsFormats_ || textCursor().hasSelection()) return;
   if (textCursor().block().length() == 1) giveLineEnd(textCursor().block(), lastFormat_);
 }
 
 void RichTextEdit::giveLineEnd(const QTextBlock& block, const QTextCharFormat& format) {
-  if (block.charFormat() == format) return;
-  QTextCursor cursor(block);
-  cursor.joinPreviousEditBlock();
-  cursor.setBlockCharFormat(format);
-  cursor.endEditBlock();
+  if (block.charFormat() != format) QTextCursor(block).setBlockCharFormat(format);
 }
 
 // The toolkit announces the caret before the text it moved in has settled, and one move often twice.
@@ -298,6 +323,7 @@ void RichTextEdit::noteCaret() {
   lastFormat_ = formatAtCaret();
   if (ends() == lastEnds_) return;
   lastEnds_ = ends();
+  if (watch_) watch_->moveSelection(selection());
   emit caretMoved();
 }
 

@@ -8,9 +8,11 @@
 #include <QTextCursor>
 #include <QTextEdit>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "base/document.h"
+#include "ui/text/change_watch.h"
 #include "ui/text/text_entry.h"
 #include "ui/text/text_index.h"
 
@@ -25,11 +27,19 @@ class RichTextEdit : public QTextEdit {
 
   [[nodiscard]] const TextIndex& index() const { return index_; }
 
-  /// Puts `text` in the place of the selection; one undo takes it back, with all that composing made of it.
+  /// Whoever listens to the text is told of all its changes, one for each thing done, with all that composing made of
+  /// it. The toolkit's own undo is off.
+  void tell(base::TextListener* listener);
+
+  [[nodiscard]] base::TextSelection selection() const;
+
+  /// Puts `text` in the place of the selection as one change.
   void insertAsOneStep(const QString& text);
   /// The same with formats of its own.
   void insertAsOneStep(const base::Document& document);
-  /// Replace the whole text, which cannot be undone; the caret is at the start.
+  /// Puts `fragment` between two positions as it was taken out there, and the caret behind it.
+  void exchange(int begin, int end, const base::Document& fragment);
+  /// Replace the whole text; the caret is at the start.
   void setWhole(const QString& text);
   void setWhole(const base::Document& document);
 
@@ -38,8 +48,8 @@ class RichTextEdit : public QTextEdit {
   /// Merged into the formats of the selection and the line ends in it, or into that of what is typed next.
   void mergeFormat(const QTextCharFormat& change);
 
-  /// From now on somebody else's commands answer the keys of cutting, copying, pasting, selecting all and deleting a
-  /// selection: where these are disabled, the keys do nothing.
+  /// From now on somebody else's commands answer the keys of cutting, copying, pasting, selecting all, undoing,
+  /// redoing and deleting a selection: where these are disabled, the keys do nothing.
   void leaveKeysToCommands() { leavesKeys_ = true; }
 
  signals:
@@ -76,11 +86,13 @@ class RichTextEdit : public QTextEdit {
   void giveLineEnd(const QTextBlock& block, const QTextCharFormat& format);
   void mergeSelectionFormat(QTextCursor selection, const QTextCharFormat& change);
   void replaceWhole(const std::function<void(QTextCursor&)>& fill);
+  void settleQuietly(const std::function<void()>& edit);
   void noteCaret();
   [[nodiscard]] Ends ends() const;
   void restore(Ends wanted);
 
   TextIndex index_;
+  std::optional<ChangeWatch> watch_;    // while somebody listens
   std::vector<Decomposed> decomposed_;  // found in the change under way
   bool changing_ = false;               // the document changes and has not settled
   bool settling_ = false;               // what changes now is our own doing
