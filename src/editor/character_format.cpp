@@ -20,7 +20,7 @@ void showIn(base::ComboBox& box, const std::string& text) {
 
 }  // namespace
 
-base::CharFormat startFormat() { return {.family = "Arial", .points = 24}; }
+base::CharFormat startFormat() { return {}; }
 
 void applyTypeface(const frame::MainWindow& window, base::RichText& document) {
   if (!window.cboFontSelect.text.empty()) document.changeFormat({.family = window.cboFontSelect.text});

@@ -7,7 +7,7 @@
 
 namespace editor {
 
-/// The format of an empty document: Arial, as everywhere, in a size that is read at a glance.
+/// The format of an empty document: Arial 8.
 base::CharFormat startFormat();
 
 /// Each gives the selection, or what is typed next, what its selector or button in the main window shows, and leaves

@@ -223,7 +223,7 @@ TEST(StartUp, TheMainWindowIsFurnishedAndPrices) {
   EXPECT_EQ(w.cboBuchstabenhöhe.text, "50");
   EXPECT_EQ(w.lblEinzelpreisZeichen.text, "1,25 EUR");
   EXPECT_EQ(w.lblTH.text, "Texthöhe in cm:");
-  EXPECT_TRUE(w.lblZeile.text.starts_with("Font: Arial / Größe: 24 (S/S/S)")) << w.lblZeile.text;
+  EXPECT_TRUE(w.lblZeile.text.starts_with("Font: Arial / Größe: 8 (S/S/S)")) << w.lblZeile.text;
   EXPECT_EQ(w.mnuLastFile.text, "/home/anna/Schild && Söhne.rtf");
   EXPECT_TRUE(w.mnuLastFile.visible);
   EXPECT_EQ(w.state, base::WindowState::maximised);

@@ -10,6 +10,7 @@
 
 #include "ui/appearance.h"
 #include "ui/forms/edit_commands.h"
+#include "ui/forms/view_commands.h"
 #include "ui/user_settings.h"
 #include "ui_main_window.h"
 
@@ -63,12 +64,13 @@ void furnishPanel(const Ui::MainWindowForm& drawn) {
 
 }  // namespace
 
-MainForm::MainForm() : drawn_(drawnOn(*this)) {
+MainForm::MainForm() : drawn_(drawnOn(*this)), view_(new ViewCommands(*this, *drawn_)) {
   // Labels of our own in the status bar instead of showMessage(), which every status tip would overwrite.
   constexpr int kTakesTheRest = 1;
   drawn_->fixStatus->addWidget(drawn_->lblZeile, kTakesTheRest);
   drawn_->fixStatus->addPermanentWidget(drawn_->lblHinweis);
   drawn_->fixStatus->addPermanentWidget(drawn_->lblZusatz);
+  drawn_->fixStatus->addPermanentWidget(drawn_->fixAnsichtsgröße);
   drawn_->fixTeiler->setStretchFactor(0, 1);
   drawn_->fixTeiler->setStretchFactor(1, 0);
   moveFormatIntoToolBar(*drawn_);
@@ -100,11 +102,13 @@ void MainForm::restoreLayout() {
   if (const auto geometry = storedBytes(kGeometryKey)) restoreGeometry(*geometry);
   setWindowState(Qt::WindowNoState);  // maximised only when the program's own key says so
   if (const auto splitter = storedBytes(kSplitterKey)) drawn_->fixTeiler->restoreState(*splitter);
+  view_->restore();
 }
 
 void MainForm::saveLayout() const {
   storeBytes(kGeometryKey, saveGeometry());
   storeBytes(kSplitterKey, drawn_->fixTeiler->saveState());
+  view_->save();
 }
 
 void MainForm::paintEvent(QPaintEvent* event) {

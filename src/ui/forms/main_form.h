@@ -11,12 +11,15 @@ class MainWindowForm;
 
 namespace ui {
 
+class ViewCommands;
+
 class MainForm : public QMainWindow {
  public:
   MainForm();
   ~MainForm() override;
 
-  /// Place, size and splitter as the user left them; a place on a screen that is gone becomes one that exists.
+  /// Place, size, splitter and the zoom of the document as the user left them; a place on a screen that is gone becomes
+  /// one that exists.
   void restoreLayout();
   void saveLayout() const;
 
@@ -31,6 +34,7 @@ class MainForm : public QMainWindow {
   void fitToScreen();
 
   std::unique_ptr<Ui::MainWindowForm> drawn_;
+  ViewCommands* view_;
   std::function<void()> painted_;
   bool isPainted_ = false;
 };

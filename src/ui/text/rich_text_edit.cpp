@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QWheelEvent>
 #include <algorithm>
 #include <utility>
 
@@ -129,6 +130,19 @@ void RichTextEdit::keyReleaseEvent(QKeyEvent* event) {
 void RichTextEdit::mouseReleaseEvent(QMouseEvent* event) {
   QTextEdit::mouseReleaseEvent(event);
   emit released();
+}
+
+void RichTextEdit::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QTextEdit::wheelEvent(event);
+  wheelTurn_ += event->angleDelta().y();
+  zoomBySteps(wheelTurn_ / QWheelEvent::DefaultDeltasPerStep);
+  wheelTurn_ %= QWheelEvent::DefaultDeltasPerStep;
+  event->accept();
+}
+
+void RichTextEdit::setZoom(int percent) {
+  zoom_.setPercent(percent);
+  emit zoomed(zoom());
 }
 
 bool RichTextEdit::canInsertFromMimeData(const QMimeData* source) const {

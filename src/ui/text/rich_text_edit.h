@@ -15,6 +15,7 @@
 #include "ui/text/change_watch.h"
 #include "ui/text/text_entry.h"
 #include "ui/text/text_index.h"
+#include "ui/text/view_zoom.h"
 
 namespace ui {
 
@@ -48,6 +49,11 @@ class RichTextEdit : public QTextEdit {
   /// Merged into the formats of the selection and the line ends in it, or into that of what is typed next.
   void mergeFormat(const QTextCharFormat& change);
 
+  /// The size of the view in percent; the document has nothing of it. Ctrl with the wheel changes it as well.
+  [[nodiscard]] int zoom() const { return zoom_.percent(); }
+  void setZoom(int percent);
+  void zoomBySteps(int steps) { setZoom(zoom_.stepped(steps)); }
+
   /// From now on somebody else's commands answer the keys of cutting, copying, pasting, selecting all, undoing,
   /// redoing and deleting a selection: where these are disabled, the keys do nothing.
   void leaveKeysToCommands() { leavesKeys_ = true; }
@@ -59,12 +65,15 @@ class RichTextEdit : public QTextEdit {
   void caretMoved();
   /// A key or a mouse button was let go.
   void released();
+  /// The view has this size.
+  void zoomed(int percent);
 
  protected:
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
@@ -100,6 +109,8 @@ class RichTextEdit : public QTextEdit {
   Ends lastEnds_;                       // when the document had settled last, and the format there
   QTextCharFormat lastFormat_;
   bool leavesKeys_ = false;
+  ViewZoom zoom_{*this};
+  int wheelTurn_ = 0;  // what has not yet made a whole step, in eighths of a degree
 };
 
 }  // namespace ui
