@@ -16,6 +16,8 @@ MessageAnswer Platform::messageBox(const Message& /*message*/) { notAvailable();
 std::optional<std::string> Platform::inputBox(const InputQuestion& /*question*/) { notAvailable(); }
 std::string Platform::askOpenFile(const FileQuestion& /*question*/) { notAvailable(); }
 std::string Platform::askSaveFile(const FileQuestion& /*question*/) { notAvailable(); }
+CharFormat Platform::askFont(const CharFormat& /*present*/) { notAvailable(); }
+std::optional<Rgb> Platform::askColour(std::optional<Rgb> /*present*/) { notAvailable(); }
 void Platform::showModal(Window& /*window*/) { notAvailable(); }
 void Platform::show(Window& /*window*/) { notAvailable(); }
 void Platform::close(Window& /*window*/) { notAvailable(); }
@@ -32,7 +34,9 @@ int Platform::screenWidth() const { notAvailable(); }
 SystemInformation Platform::systemInformation() const { notAvailable(); }
 std::string Platform::systemRoot() const { notAvailable(); }
 std::string Platform::clipboardText() const { notAvailable(); }
+std::optional<Document> Platform::clipboardDocument() const { notAvailable(); }
 void Platform::setClipboardText(std::string_view /*text*/) { notAvailable(); }
+void Platform::setClipboard(const Document& /*document*/) { notAvailable(); }
 std::optional<std::string> Platform::userSetting(std::string_view /*key*/) const { notAvailable(); }
 void Platform::saveUserSettings(const std::vector<UserSetting>& /*settings*/) { notAvailable(); }
 NumberFormat Platform::numberFormat() const { notAvailable(); }

@@ -12,6 +12,7 @@
 
 #include "base/controls.h"
 #include "base/date_time.h"
+#include "base/document.h"
 #include "base/money.h"
 #include "base/system_information.h"
 
@@ -70,6 +71,10 @@ class Platform {
   virtual std::string askOpenFile(const FileQuestion& question);
   /// The path as it was chosen, whether or not such a file exists: asking about that is up to the caller.
   virtual std::string askSaveFile(const FileQuestion& question);
+  /// What is left without a choice is a Failure (cancelled), as above. Script and colour come back as they went in.
+  virtual CharFormat askFont(const CharFormat& present);
+  /// None is the automatic colour.
+  virtual std::optional<Rgb> askColour(std::optional<Rgb> present);
 
   /// Shows `window` and waits until it is closed. One that is open already comes to the front instead.
   virtual void showModal(Window& window);
@@ -108,9 +113,13 @@ class Platform {
   /// The directory of the system's own files.
   [[nodiscard]] virtual std::string systemRoot() const;
 
-  /// The clipboard's text, empty when it holds none.
+  /// The clipboard's text without its formats, empty when it holds none.
   [[nodiscard]] virtual std::string clipboardText() const;
+  /// The same with formats; nothing when the clipboard brings none that we read.
+  [[nodiscard]] virtual std::optional<Document> clipboardDocument() const;
   virtual void setClipboardText(std::string_view text);
+  /// Offers text and formats, for whoever pastes to choose.
+  virtual void setClipboard(const Document& document);
 
   /// A value of the user's own store (application Tessik, section "Prog"); nothing when the key is missing.
   [[nodiscard]] virtual std::optional<std::string> userSetting(std::string_view key) const;

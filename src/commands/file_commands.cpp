@@ -50,6 +50,7 @@ void load(const MainParts& parts, const std::string& path) {
   parts.window.rtfText.setDocument(read);
   showCurrentFile(parts, path);
   editor::markSaved(parts.document, parts.window.rtfText);
+  parts.undo.clear();
   parts.platform.setHourglass(base::Hourglass::off);
 }
 
@@ -71,6 +72,7 @@ void NewDoc(const MainParts& parts) {
   parts.document.file.clear();
   parts.window.caption = base::windowCaption();
   editor::markSaved(parts.document, parts.window.rtfText);
+  parts.undo.clear();
 }
 
 // Runs a procedure that reports by itself; the caller's further steps follow only when it came to its end.
@@ -122,6 +124,7 @@ void SaveNow(const MainParts& parts) {
     editor::markSaved(parts.document, parts.window.rtfText);
     showCurrentFile(parts, path);
     parts.platform.saveUserSettings({{.key = "LastFile", .value = path}});
+    parts.undo.clear();
   });
 }
 
@@ -145,6 +148,7 @@ void openFile(const MainParts& parts, const std::string& path) {
 void showRecovered(const MainParts& parts, const base::Document& document) {
   parts.window.rtfText.setDocument(document);
   parts.document = {.file = {}, .savedRevision = parts.window.rtfText.revision() - 1};
+  parts.undo.clear();
   calculate(parts);
 }
 

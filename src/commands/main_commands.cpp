@@ -6,8 +6,8 @@
 #include "calc/price_database.h"
 #include "calc/running_sum.h"
 #include "commands/file_commands.h"
+#include "commands/format_commands.h"
 #include "commands/undo_commands.h"
-#include "editor/character_format.h"
 #include "editor/editing.h"
 
 namespace commands {
@@ -18,25 +18,8 @@ using base::Wiring;
 
 void wireDocument(Wiring& wiring, const MainParts& parts) {
   for (const Event event : {Event::changed, Event::selected, Event::released}) {
-    wiring.on(parts.window.rtfText, event, reported(parts, calc::kCalcTag, [](const MainParts& p) {
-                editor::showFormat(p.window, p.window.rtfText);
-                calculate(p);
-              }));
+    wiring.on(parts.window.rtfText, event, reported(parts, calc::kCalcTag, calculate));
   }
-}
-
-void wireFormat(Wiring& wiring, const MainParts& parts) {
-  const auto format = [&](const base::Control& control, std::string_view tag, auto apply) {
-    wiring.on(control, Event::click, reported(parts, tag, [apply](const MainParts& p) {
-                inOneStep(p, [&](const MainParts&) { apply(p.window, p.window.rtfText); });
-                calculate(p);
-              }));
-  };
-  format(parts.window.cboFontSelect, "MAIN-cboFontSelect_Click", editor::applyTypeface);
-  format(parts.window.cboFontSize, "MAIN-cboFontSize_Click", editor::applySize);
-  format(parts.window.cmdFett, "MAIN-cmdFett_Click", editor::applyBold);
-  format(parts.window.cmdKursiv, "MAIN-cmdKursiv_Click", editor::applyItalic);
-  format(parts.window.cmdUnterstrichen, "MAIN-cmdUnterstrichen_Click", editor::applyUnderline);
 }
 
 // Each editing command is one step that can be undone, and followed by the calculation.
@@ -44,7 +27,6 @@ void wireEditing(Wiring& wiring, const MainParts& parts) {
   const auto edit = [&](const base::MenuEntry& entry, std::string_view tag, auto command) {
     wiring.on(entry, Event::click, reported(parts, tag, [command](const MainParts& p) {
                 inOneStep(p, command);
-                editor::showFormat(p.window, p.window.rtfText);
                 calculate(p);
               }));
   };
@@ -53,8 +35,11 @@ void wireEditing(Wiring& wiring, const MainParts& parts) {
        [](const MainParts& p) { editor::cutSelection(p.window.rtfText, p.platform); });
   edit(window.mnuCopy, "MAIN-mnuCopy_Click",
        [](const MainParts& p) { editor::copySelection(p.window.rtfText, p.platform); });
-  edit(window.mnuPaste, "MAIN-mnuPaste_Click",
-       [](const MainParts& p) { editor::pasteText(p.window.rtfText, p.platform); });
+  edit(window.mnuCopyAll, "MAIN-mnuCopyAll_Click",
+       [](const MainParts& p) { editor::copyAll(p.window.rtfText, p.platform); });
+  edit(window.mnuPaste, "MAIN-mnuPaste_Click", [](const MainParts& p) { editor::paste(p.window.rtfText, p.platform); });
+  edit(window.mnuPastePlain, "MAIN-mnuPastePlain_Click",
+       [](const MainParts& p) { editor::pastePlain(p.window.rtfText, p.platform); });
   edit(window.mnuDelete, "MAIN-mnuDelete_Click", [](const MainParts& p) { editor::deleteSelection(p.window.rtfText); });
   edit(window.mnuMarkAll, "MAIN-mnuMarkAll_Click", [](const MainParts& p) { editor::selectAll(p.window.rtfText); });
 }

@@ -1,6 +1,8 @@
 // What every procedure of the main window does with its parts.
 #include "commands/main_parts.h"
 
+#include "editor/character_format.h"
+
 namespace commands {
 
 calc::CalcParts calcParts(const MainParts& parts) {
@@ -12,6 +14,7 @@ calc::CalcParts calcParts(const MainParts& parts) {
 }
 
 void calculate(const MainParts& parts) {
+  editor::showFormat(parts.window, parts.window.rtfText);
   calc::Calc(calcParts(parts));
   parts.window.mnuUndo.enabled = parts.results.TextLength >= 1 && parts.undo.canUndo();
   parts.window.mnuRedo.enabled = parts.undo.canRedo();

@@ -1,8 +1,6 @@
 // Undo and redo of the document.
 #include "commands/undo_commands.h"
 
-#include "editor/character_format.h"
-
 namespace commands {
 namespace {
 
@@ -12,7 +10,6 @@ void wireStep(base::Wiring& wiring, const MainParts& parts, const base::MenuEntr
               Step step) {
   wiring.on(entry, base::Event::click, reported(parts, tag, [step](const MainParts& p) {
               (p.undo.*step)();
-              editor::showFormat(p.window, p.window.rtfText);
               calculate(p);
             }));
 }

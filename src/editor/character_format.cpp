@@ -2,6 +2,8 @@
 #include "editor/character_format.h"
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 #include <string>
 
 #include "base/money.h"
@@ -18,6 +20,17 @@ void showIn(base::ComboBox& box, const std::string& text) {
   box.text = text;
 }
 
+// Sizes as documents keep them: half points within what typesetting programs agree on.
+double keptSize(double points) {
+  constexpr double kLeast = 1;
+  constexpr double kMost = 1638;
+  return std::round(std::clamp(points, kLeast, kMost) * 2) / 2;
+}
+
+base::Script scriptOf(const base::ToggleButton& button, base::Script pressed) {
+  return button.pressed ? pressed : base::Script::normal;
+}
+
 }  // namespace
 
 base::CharFormat startFormat() { return {}; }
@@ -28,7 +41,11 @@ void applyTypeface(const frame::MainWindow& window, base::RichText& document) {
 
 void applySize(const frame::MainWindow& window, base::RichText& document) {
   const double points = base::typedAmount(window.cboFontSize.text);
-  if (points > 0) document.changeFormat({.points = points});
+  if (points > 0) document.changeFormat({.points = keptSize(points)});
+}
+
+void applyOtherSize(const frame::MainWindow& window, base::RichText& document) {
+  if (window.cboFontSize.text != base::pointsText(document.format().points)) applySize(window, document);
 }
 
 void applyBold(const frame::MainWindow& window, base::RichText& document) {
@@ -43,6 +60,32 @@ void applyUnderline(const frame::MainWindow& window, base::RichText& document) {
   document.changeFormat({.underline = window.cmdUnterstrichen.pressed});
 }
 
+void applyStrikeOut(const frame::MainWindow& window, base::RichText& document) {
+  document.changeFormat({.strikeOut = window.mnuDurchgestrichen.pressed});
+}
+
+void applySuperscript(const frame::MainWindow& window, base::RichText& document) {
+  document.changeFormat({.script = scriptOf(window.mnuHochgestellt, base::Script::superscript)});
+}
+
+void applySubscript(const frame::MainWindow& window, base::RichText& document) {
+  document.changeFormat({.script = scriptOf(window.mnuTiefgestellt, base::Script::subscript)});
+}
+
+void chooseFont(base::RichText& document, base::Platform& platform) {
+  const base::CharFormat chosen = platform.askFont(document.format());
+  document.changeFormat({.family = chosen.family,
+                         .points = keptSize(chosen.points),
+                         .bold = chosen.bold,
+                         .italic = chosen.italic,
+                         .underline = chosen.underline,
+                         .strikeOut = chosen.strikeOut});
+}
+
+void chooseColour(base::RichText& document, base::Platform& platform) {
+  document.changeFormat({.colour = platform.askColour(document.format().colour)});
+}
+
 void showFormat(frame::MainWindow& window, const base::RichText& document) {
   const base::CharFormat format = document.format();
   showIn(window.cboFontSelect, format.family);
@@ -50,6 +93,13 @@ void showFormat(frame::MainWindow& window, const base::RichText& document) {
   window.cmdFett.pressed = format.bold;
   window.cmdKursiv.pressed = format.italic;
   window.cmdUnterstrichen.pressed = format.underline;
+  window.mnuDurchgestrichen.pressed = format.strikeOut;
+  window.mnuHochgestellt.pressed = format.script == base::Script::superscript;
+  window.mnuTiefgestellt.pressed = format.script == base::Script::subscript;
+  const base::Alignment alignment = document.alignment();
+  window.mnuLinks.pressed = alignment == base::Alignment::left;
+  window.mnuZentriert.pressed = alignment == base::Alignment::centre;
+  window.mnuRechts.pressed = alignment == base::Alignment::right;
 }
 
 }  // namespace editor

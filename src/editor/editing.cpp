@@ -2,6 +2,7 @@
 #include "editor/editing.h"
 
 #include <limits>
+#include <optional>
 #include <string>
 
 namespace editor {
@@ -12,10 +13,17 @@ void cutSelection(base::RichText& document, base::Platform& platform) {
 }
 
 void copySelection(const base::RichText& document, base::Platform& platform) {
-  if (document.selection().length > 0) platform.setClipboardText(document.selectedText());
+  if (document.selection().length > 0) platform.setClipboard(document.selectedDocument());
 }
 
-void pasteText(base::RichText& document, const base::Platform& platform) {
+void copyAll(const base::RichText& document, base::Platform& platform) { platform.setClipboard(document.document()); }
+
+void paste(base::RichText& document, const base::Platform& platform) {
+  const std::optional<base::Document> formatted = platform.clipboardDocument();
+  formatted ? document.replaceSelection(*formatted) : pastePlain(document, platform);
+}
+
+void pastePlain(base::RichText& document, const base::Platform& platform) {
   const std::string text = platform.clipboardText();
   if (!text.empty()) document.replaceSelection(text);
 }

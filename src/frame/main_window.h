@@ -18,6 +18,14 @@ namespace frame {
   CONTROL(base::ToggleButton, cmdFett)                                                         \
   CONTROL(base::ToggleButton, cmdKursiv)                                                       \
   CONTROL(base::ToggleButton, cmdUnterstrichen)                                                \
+  CONTROL(base::ToggleButton, mnuDurchgestrichen)                                              \
+  CONTROL(base::ToggleButton, mnuHochgestellt)                                                 \
+  CONTROL(base::ToggleButton, mnuTiefgestellt)                                                 \
+  CONTROL(base::MenuEntry, mnuSchriftart)                                                      \
+  CONTROL(base::MenuEntry, mnuFarbe)                                                           \
+  CONTROL(base::ToggleButton, mnuLinks)          /* one of three, or none: justified */        \
+  CONTROL(base::ToggleButton, mnuZentriert)                                                    \
+  CONTROL(base::ToggleButton, mnuRechts)                                                       \
   CONTROL(base::Label, lblTH)                                                                  \
   CONTROL(base::ComboBox, cboBuchstabenhöhe)                                                   \
   CONTROL(base::HiddenList, List1)               /* the prices of cboBuchstabenhöhe, by position */ \
@@ -73,7 +81,9 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuRedo)                                                            \
   CONTROL(base::MenuEntry, mnuCut)                                                             \
   CONTROL(base::MenuEntry, mnuCopy)                                                            \
+  CONTROL(base::MenuEntry, mnuCopyAll)                                                         \
   CONTROL(base::MenuEntry, mnuPaste)                                                           \
+  CONTROL(base::MenuEntry, mnuPastePlain)                                                      \
   CONTROL(base::MenuEntry, mnuDelete)                                                          \
   CONTROL(base::MenuEntry, mnuMarkAll)                                                         \
   CONTROL(base::MenuEntry, mnuInfo)                                                            \

@@ -111,7 +111,6 @@ void loadTypefaces(const commands::MainParts& parts, Loading& loading) {
     parts.window.cboFontSelect.items.add(family);
     loading.step();
   }
-  editor::showFormat(parts.window, parts.window.rtfText);
 }
 
 void loadAll(Program& program, const commands::MainParts& parts) {

@@ -17,7 +17,9 @@
 #include "base/rich_text.h"
 #include "qtcore/locale.h"
 #include "ui/appearance.h"
+#include "ui/format_dialogs.h"
 #include "ui/system_information.h"
+#include "ui/text/clipboard_formats.h"
 #include "ui/user_settings.h"
 #include "ui/utf8.h"
 
@@ -117,6 +119,16 @@ std::string QtPlatform::askSaveFile(const base::FileQuestion& question) {
                                              QFileDialog::DontConfirmOverwrite));
 }
 
+base::CharFormat QtPlatform::askFont(const base::CharFormat& present) {
+  const Gate::ModalWait wait(gate_);
+  return chosenFont(present);
+}
+
+std::optional<base::Rgb> QtPlatform::askColour(std::optional<base::Rgb> present) {
+  const Gate::ModalWait wait(gate_);
+  return chosenColour(present);
+}
+
 void QtPlatform::show(base::Window& window) {
   lastRefresh_ = std::chrono::steady_clock::now();
   windows_.show(window);
@@ -161,9 +173,21 @@ base::SystemInformation QtPlatform::systemInformation() const { return ui::syste
 
 std::string QtPlatform::systemRoot() const { return "/usr"; }
 
-std::string QtPlatform::clipboardText() const { return toUtf8(QGuiApplication::clipboard()->text()); }
+std::string QtPlatform::clipboardText() const {
+  const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+  return data == nullptr ? std::string() : toUtf8(plainText(*data));
+}
+
+std::optional<base::Document> QtPlatform::clipboardDocument() const {
+  const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+  return data == nullptr ? std::nullopt : formattedText(*data);
+}
 
 void QtPlatform::setClipboardText(std::string_view text) { QGuiApplication::clipboard()->setText(toQString(text)); }
+
+void QtPlatform::setClipboard(const base::Document& document) {
+  QGuiApplication::clipboard()->setMimeData(new DocumentMimeData(document));
+}
 
 std::optional<std::string> QtPlatform::userSetting(std::string_view key) const { return storedUserSetting(key); }
 

@@ -32,6 +32,8 @@ class QtPlatform : public base::Platform {
   std::optional<std::string> inputBox(const base::InputQuestion& question) override;
   std::string askOpenFile(const base::FileQuestion& question) override;
   std::string askSaveFile(const base::FileQuestion& question) override;
+  base::CharFormat askFont(const base::CharFormat& present) override;
+  std::optional<base::Rgb> askColour(std::optional<base::Rgb> present) override;
   void showModal(base::Window& window) override { windows_.showModal(window); }
   void show(base::Window& window) override;
   void close(base::Window& window) override { windows_.requestClose(window); }
@@ -48,7 +50,9 @@ class QtPlatform : public base::Platform {
   [[nodiscard]] base::SystemInformation systemInformation() const override;
   [[nodiscard]] std::string systemRoot() const override;
   [[nodiscard]] std::string clipboardText() const override;
+  [[nodiscard]] std::optional<base::Document> clipboardDocument() const override;
   void setClipboardText(std::string_view text) override;
+  void setClipboard(const base::Document& document) override;
   [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
   void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   [[nodiscard]] base::NumberFormat numberFormat() const override;

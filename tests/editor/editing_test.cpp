@@ -57,6 +57,7 @@ TEST(Editing, CommandsNeedALettering) {
   EXPECT_TRUE(w.mnuCut.enabled && w.mnuCopy.enabled && w.mnuDelete.enabled && w.mnuMarkAll.enabled);
   desk.click(w.mnuMarkAll);
   desk.platform.clipboard = "";
+  desk.platform.clipboardFormats.reset();
   desk.click(w.mnuPaste);
   EXPECT_EQ(desk.document.plainText(), "Folie") << "nothing to paste takes nothing away";
 }

@@ -39,6 +39,10 @@ class ScriptedPlatform : public base::Platform {
   base::SystemInformation system;
   int width = 1280;
   std::string clipboard;
+  std::optional<base::Document> clipboardFormats;  // the same text with formats
+  /// What dialogs of fonts and colours answer; without an answer they are cancelled.
+  std::optional<base::CharFormat> font;
+  std::optional<std::optional<base::Rgb>> colour;
   int beeps = 0;
   bool escape = false;  // was pressed
   base::Hourglass hourglass = base::Hourglass::off;
@@ -68,7 +72,13 @@ class ScriptedPlatform : public base::Platform {
   [[nodiscard]] base::SystemInformation systemInformation() const override { return system; }
   [[nodiscard]] std::string systemRoot() const override { return "/usr"; }
   [[nodiscard]] std::string clipboardText() const override { return clipboard; }
-  void setClipboardText(std::string_view text) override { clipboard = text; }
+  [[nodiscard]] std::optional<base::Document> clipboardDocument() const override { return clipboardFormats; }
+  void setClipboardText(std::string_view text) override { clipboard = text, clipboardFormats.reset(); }
+  void setClipboard(const base::Document& document) override {
+    clipboard = base::plainText(document), clipboardFormats = document;
+  }
+  base::CharFormat askFont(const base::CharFormat& /*present*/) override { return answered(font); }
+  std::optional<base::Rgb> askColour(std::optional<base::Rgb> /*present*/) override { return answered(colour); }
   [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
   void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   void setHourglass(base::Hourglass value) override { hourglass = value; }
@@ -80,6 +90,12 @@ class ScriptedPlatform : public base::Platform {
   }
 
  private:
+  template <typename T>
+  static T answered(const std::optional<T>& answer) {
+    if (!answer) throw base::Failure(base::ErrorNumber::cancelled);
+    return *answer;
+  }
+
   struct Question {
     base::Message message;  // of a message box
     base::MessageAnswer answer = base::MessageAnswer::ok;

@@ -129,7 +129,7 @@ TEST(RichTextEdit, pastesPlainTextInTheFormatOfTheCaret) {
   const std::vector<Row> rows = {
       {"1\u00A02\r\n3", "", "1\u00A02\r\n3"},
       {"", "<b>1&nbsp;2</b><br>3<p>4 <img src='x.png'>5</p>", "1\u00A02\r\n3\r\n4 5"},
-      {"yes", "<h1>no</h1>", "yes"},
+      {"no", "<h1>yes</h1>", "yes"},
       {"a\u0308", "", "ä"},
       {noCharacters, "", "1z"},
       {"", "", ""},

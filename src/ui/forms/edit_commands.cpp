@@ -14,6 +14,8 @@ namespace ui {
 namespace {
 
 constexpr bool kBeginsPart = true;
+constexpr bool kGoesOn = false;
+constexpr bool kDocumentAlone = false;
 
 QAction* separator(QObject& owner) {
   auto* const line = new QAction(&owner);
@@ -30,19 +32,22 @@ QLineEdit* lineOf(QWidget* widget) {
 
 EditCommands::EditCommands(QMainWindow& window, const Ui::MainWindowForm& drawn)
     : QObject(&window),
-      commands_({{drawn.fixUndo, drawn.mnuUndo, [](QLineEdit& line) { line.undo(); }},
-                 {drawn.fixRedo, drawn.mnuRedo, [](QLineEdit& line) { line.redo(); }},
-                 {drawn.fixCut, drawn.mnuCut, [](QLineEdit& line) { line.cut(); }, kBeginsPart},
-                 {drawn.fixCopy, drawn.mnuCopy, [](QLineEdit& line) { line.copy(); }},
-                 {drawn.fixPaste, drawn.mnuPaste, [](QLineEdit& line) { line.paste(); }},
-                 {drawn.fixDelete, drawn.mnuDelete, [](QLineEdit& line) { line.del(); }},
-                 {drawn.fixMarkAll, drawn.mnuMarkAll, [](QLineEdit& line) { line.selectAll(); }, kBeginsPart}}) {
+      commands_(
+          {{drawn.fixUndo, drawn.mnuUndo, [](QLineEdit& line) { line.undo(); }},
+           {drawn.fixRedo, drawn.mnuRedo, [](QLineEdit& line) { line.redo(); }},
+           {drawn.fixCut, drawn.mnuCut, [](QLineEdit& line) { line.cut(); }, kBeginsPart},
+           {drawn.fixCopy, drawn.mnuCopy, [](QLineEdit& line) { line.copy(); }},
+           {drawn.fixPaste, drawn.mnuPaste, [](QLineEdit& line) { line.paste(); }},
+           {drawn.fixPastePlain, drawn.mnuPastePlain, [](QLineEdit& line) { line.paste(); }, kGoesOn, kDocumentAlone},
+           {drawn.fixDelete, drawn.mnuDelete, [](QLineEdit& line) { line.del(); }},
+           {drawn.fixMarkAll, drawn.mnuMarkAll, [](QLineEdit& line) { line.selectAll(); }, kBeginsPart}}) {
   // The same on every desktop, whichever of these its own are.
   drawn.fixUndo->setShortcuts({Qt::CTRL | Qt::Key_Z, Qt::ALT | Qt::Key_Backspace});
   drawn.fixRedo->setShortcuts({Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z});
   drawn.fixCut->setShortcuts(QKeySequence::Cut);
   drawn.fixCopy->setShortcuts(QKeySequence::Copy);
   drawn.fixPaste->setShortcuts(QKeySequence::Paste);
+  drawn.fixPastePlain->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_V);
   drawn.fixMarkAll->setShortcuts(QKeySequence::SelectAll);
   // Pressed in a list, the key shall not delete what is marked in the document.
   drawn.fixDelete->setShortcuts(QKeySequence::Delete);
@@ -60,6 +65,7 @@ void EditCommands::offerInContextMenus(QMainWindow& window, QTextEdit& document)
   for (QLineEdit* const line : window.findChildren<QLineEdit*>()) texts.append(line);
   for (QWidget* const text : texts) {
     for (const Command& command : commands_) {
+      if (text != &document && !command.isForLines) continue;
       if (command.beginsPart) text->addAction(separator(*text));
       text->addAction(command.shown);
     }

@@ -1,4 +1,5 @@
-// Undo, redo, cut, copy, paste, delete and select all: one set of commands for keys, menu, tool bar and context menus.
+// Undo, redo, cut, copy, paste in two ways, delete and select all: one set of commands for keys, menu, tool bar and
+// context menus.
 //
 // While a box to type into has the focus they are that box's own; elsewhere they are the document's, enabled as the
 // calculation says.
@@ -29,6 +30,7 @@ class EditCommands : public QObject {
     QAction* ofDocument;
     void (*ofLine)(QLineEdit& line);
     bool beginsPart = false;  // of a context menu
+    bool isForLines = true;   // offered in their context menus
   };
 
   void offerInContextMenus(QMainWindow& window, QTextEdit& document);

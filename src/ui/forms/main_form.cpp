@@ -34,7 +34,10 @@ void moveFormatIntoToolBar(const Ui::MainWindowForm& drawn) {
        std::initializer_list<QWidget*>{drawn.fixSchrift, drawn.cboFontSelect, drawn.fixGröße, drawn.cboFontSize}) {
     drawn.fixLeiste->addWidget(part);
   }
-  drawn.fixLeiste->addActions(drawn.fixFormat->actions());
+  QToolBar& bar = *drawn.fixLeiste;
+  bar.addActions({drawn.cmdFett, drawn.cmdKursiv, drawn.cmdUnterstrichen, drawn.mnuDurchgestrichen, drawn.mnuFarbe});
+  bar.addSeparator();
+  bar.addActions({drawn.mnuLinks, drawn.mnuZentriert, drawn.mnuRechts});
 }
 
 // The lettering stands on white paper, whatever the palette.
@@ -78,9 +81,12 @@ MainForm::MainForm() : drawn_(drawnOn(*this)), view_(new ViewCommands(*this, *dr
   makePaperWhite(*drawn_->rtfText);
   furnishPanel(*drawn_);
   drawn_->rtfText->leaveKeysToCommands();
-  new EditCommands(*this, *drawn_);  // belongs to this window
-  connect(drawn_->cboFontSelect, &AutoCompleteComboBox::chosen, drawn_->rtfText, qOverload<>(&QWidget::setFocus),
-          Qt::QueuedConnection);
+  new EditCommands(*this, *drawn_);            // belongs to this window
+  drawn_->cboFontSize->setCompleter(nullptr);  // which would hold 1 for 10
+  for (const ChoosingComboBox* const box :
+       {static_cast<ChoosingComboBox*>(drawn_->cboFontSelect), drawn_->cboFontSize}) {
+    connect(box, &ChoosingComboBox::chosen, drawn_->rtfText, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
+  }
   // The height's label is written by the calculation and cannot carry an access key of its own.
   connect(new QShortcut(Qt::ALT | Qt::Key_T, this), &QShortcut::activated, drawn_->cboBuchstabenhöhe,
           [this] { drawn_->cboBuchstabenhöhe->setFocus(Qt::ShortcutFocusReason); });

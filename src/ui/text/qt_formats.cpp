@@ -17,8 +17,7 @@ QBrush brush(const std::optional<base::Rgb>& colour) {
 
 std::optional<base::Rgb> colourOf(const QBrush& brush) {
   if (brush.style() == Qt::NoBrush) return std::nullopt;
-  constexpr base::Rgb kWithoutAlpha = 0xFFFFFF;
-  return brush.color().rgb() & kWithoutAlpha;
+  return fromQt(brush.color());
 }
 
 QTextCharFormat::VerticalAlignment toQt(base::Script script) {
@@ -57,6 +56,11 @@ QTextCharFormat toQt(const base::FormatChange& change) {
   if (change.script) result.setVerticalAlignment(toQt(*change.script));
   if (change.colour) result.setForeground(brush(*change.colour));
   return result;
+}
+
+base::Rgb fromQt(const QColor& colour) {
+  constexpr base::Rgb kWithoutAlpha = 0xFFFFFF;
+  return colour.rgb() & kWithoutAlpha;
 }
 
 base::CharFormat fromQt(const QTextCharFormat& format) {

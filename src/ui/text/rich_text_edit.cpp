@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/text/clipboard_formats.h"
 #include "ui/text/qt_document.h"
 #include "ui/text/qt_formats.h"
 
@@ -18,18 +19,6 @@ namespace ui {
 namespace {
 
 constexpr bool kForwards = true;
-
-// The toolkit's own conversion to plain text would turn no-break spaces into blanks.
-QString withLineFeeds(QString raw) {
-  return raw.replace(QChar::ParagraphSeparator, QLatin1Char('\n')).replace(QChar::LineSeparator, QLatin1Char('\n'));
-}
-
-QString textOf(const QMimeData& source) {
-  if (source.hasText()) return source.text();
-  QTextDocument page;
-  page.setHtml(source.html());
-  return withLineFeeds(page.toRawText());
-}
 
 bool isTypedCharacter(QChar c) { return c.isPrint() || c.isMark() || c.isHighSurrogate(); }
 
@@ -145,20 +134,18 @@ void RichTextEdit::setZoom(int percent) {
   emit zoomed(zoom());
 }
 
-bool RichTextEdit::canInsertFromMimeData(const QMimeData* source) const {
-  return source->hasText() || source->hasHtml();
-}
+bool RichTextEdit::canInsertFromMimeData(const QMimeData* source) const { return bringsText(*source); }
 
 void RichTextEdit::insertFromMimeData(const QMimeData* source) {
-  const QString text = enteringText(textOf(*source));
-  if (isReadOnly() || text.isEmpty()) return;
-  insertAsOneStep(text);
+  if (isReadOnly()) return;
+  if (const auto formatted = formattedText(*source)) return insertAsOneStep(*formatted);
+  const QString text = plainText(*source);
+  if (!text.isEmpty()) insertAsOneStep(text);
 }
 
 QMimeData* RichTextEdit::createMimeDataFromSelection() const {
-  auto* const text = new QMimeData;
-  text->setText(withLineFeeds(textCursor().selectedText()));
-  return text;
+  const QTextCursor cursor = textCursor();
+  return new DocumentMimeData(documentBetween(*document(), cursor.selectionStart(), cursor.selectionEnd()));
 }
 
 // Line ends that come in have the format of the text; the toolkit would give it to the one behind the last line instead

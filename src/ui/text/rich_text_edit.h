@@ -1,7 +1,8 @@
-// The text edit of documents: what enters is plain text, composed and cleaned, in the format of the place it enters.
+// The text edit of documents: what enters is composed and cleaned, in the format of the place it enters unless it
+// brings its own.
 //
 // Tab writes a tab character, for tabs are part of a lettering; Ctrl+Tab and Shift+Tab leave the field. Clipboard and
-// drag carry plain text both ways, a no-break space as one.
+// drag carry formats and a no-break space as one.
 #pragma once
 
 #include <QTextCharFormat>

@@ -6,7 +6,6 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -30,7 +29,7 @@ bool isEnter(const QKeyEvent& key) { return key.key() == Qt::Key_Return || key.k
 
 }  // namespace
 
-AutoCompleteComboBox::AutoCompleteComboBox(QWidget* parent) : QComboBox(parent) {
+AutoCompleteComboBox::AutoCompleteComboBox(QWidget* parent) : ChoosingComboBox(parent) {
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   completer()->setCompletionMode(QCompleter::PopupCompletion);
@@ -41,10 +40,7 @@ AutoCompleteComboBox::AutoCompleteComboBox(QWidget* parent) : QComboBox(parent) 
   });
   // The list of completions follows the text a moment later.
   connect(lineEdit(), &QLineEdit::textEdited, this, &AutoCompleteComboBox::highlightBest, Qt::QueuedConnection);
-  connect(this, &QComboBox::activated, this, [this](int index) {
-    before_ = itemText(index);
-    if (!isStepping_) emit chosen();
-  });
+  connect(this, &QComboBox::activated, this, [this](int index) { before_ = itemText(index); });
 }
 
 void AutoCompleteComboBox::focusInEvent(QFocusEvent* event) {
@@ -73,13 +69,7 @@ void AutoCompleteComboBox::keyPressEvent(QKeyEvent* event) {
     emit chosen();
     return;
   }
-  const QScopedValueRollback stepping(isStepping_, true);
-  QComboBox::keyPressEvent(event);
-}
-
-void AutoCompleteComboBox::wheelEvent(QWheelEvent* event) {
-  const QScopedValueRollback stepping(isStepping_, true);
-  QComboBox::wheelEvent(event);
+  ChoosingComboBox::keyPressEvent(event);
 }
 
 bool AutoCompleteComboBox::eventFilter(QObject* watched, QEvent* event) {

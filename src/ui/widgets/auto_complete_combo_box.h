@@ -4,26 +4,22 @@
 // a text that is an item, in any case of letters; any other gives way to what stood there before.
 #pragma once
 
-#include <QComboBox>
 #include <QString>
+
+#include "ui/widgets/choosing_combo_box.h"
 
 namespace ui {
 
-class AutoCompleteComboBox : public QComboBox {
+class AutoCompleteComboBox : public ChoosingComboBox {
   Q_OBJECT
 
  public:
   explicit AutoCompleteComboBox(QWidget* parent = nullptr);
 
- signals:
-  /// The user is done: by Enter, Tab or a click on a row, not by stepping through the items in the closed box.
-  void chosen();
-
  protected:
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -39,7 +35,6 @@ class AutoCompleteComboBox : public QComboBox {
   void widenLists();
 
   QString before_;
-  bool isStepping_ = false;
 };
 
 }  // namespace ui

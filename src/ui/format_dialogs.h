@@ -1,0 +1,16 @@
+// The desktop's dialogs of fonts and colours.
+#pragma once
+
+#include <optional>
+
+#include "base/document.h"
+
+namespace ui {
+
+/// `present` with what the person chose; what was left as it was shown stays, even where the dialog knows only
+/// something like it. Leaving without a choice is a Failure (cancelled).
+base::CharFormat chosenFont(const base::CharFormat& present);
+/// The same for a colour; none is the automatic one.
+std::optional<base::Rgb> chosenColour(std::optional<base::Rgb> present);
+
+}  // namespace ui
