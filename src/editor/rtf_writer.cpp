@@ -47,7 +47,8 @@ bool isPlain(char32_t c) { return c >= 0x20 && c < 0x7F && c != U'\\' && c != U'
 
 class Writer {
  public:
-  explicit Writer(const base::Document& document) : document_(document) {}
+  enum class LastParagraph { closed, open };
+  explicit Writer(const base::Document& document, LastParagraph last) : document_(document), last_(last) {}
 
   std::string write();
 
@@ -76,6 +77,7 @@ class Writer {
   void toggle(bool was, bool is, std::string_view on, std::string_view off);
 
   const base::Document& document_;
+  const LastParagraph last_;
   std::string out_;
   std::vector<std::string> fonts_;
   std::map<std::string, int> fontNumbers_;
@@ -172,7 +174,8 @@ void Writer::paragraph(const base::Paragraph& paragraph) {
     text(rest.substr(0, run.size));
     rest.remove_prefix(run.size);
   }
-  endParagraph(formats_.at(paragraph.endFormat));
+  const bool staysOpen = last_ == LastParagraph::open && &paragraph == &document_.paragraphs.back();
+  if (!staysOpen) endParagraph(formats_.at(paragraph.endFormat));
 }
 
 // Word processors hold back what follows \super and \sub until these end; the end of a paragraph would come too late
@@ -298,6 +301,11 @@ void Writer::put(std::string_view word, int number) {
 
 }  // namespace
 
-std::string writeRtf(const base::Document& document) { return Writer(document).write(); }
+std::string writeRtf(const base::Document& document) { return Writer(document, Writer::LastParagraph::closed).write(); }
+
+std::string writeRtfPiece(const base::Document& document) {
+  using Last = Writer::LastParagraph;
+  return Writer(document, document.paragraphs.size() == 1 ? Last::open : Last::closed).write();
+}
 
 }  // namespace editor

@@ -13,4 +13,7 @@ namespace editor {
 
 std::string writeRtf(const base::Document& document);
 
+/// The same for a piece of a text: a single paragraph has no end, so that it joins the line it is pasted into.
+std::string writeRtfPiece(const base::Document& document);
+
 }  // namespace editor

@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QPushButton>
 
 #include "base/failure.h"
@@ -26,7 +28,10 @@ int answerOf(QDialog& dialog) {
 }  // namespace
 
 base::CharFormat chosenFont(const base::CharFormat& present) {
-  QFontDialog dialog(toQt(present).font(), QApplication::activeWindow());
+  QFont drawn = toQt(present).font();
+  // The dialog lists what is installed: instead of a typeface that is not it shows the one that is drawn.
+  if (!QFontDatabase::hasFamily(drawn.family())) drawn.setFamilies({QFontInfo(drawn).family()});
+  QFontDialog dialog(drawn, QApplication::activeWindow());
   dialog.setWindowTitle(QStringLiteral("Schriftart"));
   const QFont shown = dialog.currentFont();
   answerOf(dialog);

@@ -50,7 +50,7 @@ EditCommands::EditCommands(QMainWindow& window, const Ui::MainWindowForm& drawn)
   drawn.fixPastePlain->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_V);
   drawn.fixMarkAll->setShortcuts(QKeySequence::SelectAll);
   // Pressed in a list, the key shall not delete what is marked in the document.
-  drawn.fixDelete->setShortcuts(QKeySequence::Delete);
+  drawn.fixDelete->setShortcut(Qt::Key_Delete);
   drawn.fixDelete->setShortcutContext(Qt::WidgetShortcut);
   for (const Command& command : commands_) {
     connect(command.shown, &QAction::triggered, this, [this, command] { run(command); });

@@ -86,7 +86,7 @@ QStringList DocumentMimeData::formats() const {
 }
 
 QVariant DocumentMimeData::retrieveData(const QString& type, QMetaType /*wanted*/) const {
-  if (isRtf(type)) return QByteArray::fromStdString(editor::writeRtf(document_));
+  if (isRtf(type)) return QByteArray::fromStdString(editor::writeRtfPiece(document_));
   if (type == QLatin1String(kHtml)) return htmlOf(document_);
   if (type != QLatin1String(kText)) return {};
   return toQString(base::plainText(document_)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
