@@ -49,6 +49,9 @@ bool mayLeave(Program& program) {
       if (!isKept) return false;
     }
   }
+  // The copy was written on behind the question, too.
+  program.windows.main.tmrSicherung.running = false;
+  program.platform.awaitAside();
   program.recovery.remove();
   return true;
 }
@@ -62,6 +65,7 @@ void offerRecovered(Program& program) {
                                            "Soll der nicht gespeicherte Text wiederhergestellt werden?",
                                    .icon = base::MessageIcon::question,
                                    .buttons = base::MessageButtons::yesNo});
+  if (!program.windows.main.mayAsk) return;  // nobody answered: the next start asks again
   if (answer == base::MessageAnswer::yes) {
     commands::showRecovered(partsOf(program), left);
     program.recovery.keepsUpWith(program.windows.main.rtfText);

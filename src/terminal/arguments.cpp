@@ -16,7 +16,7 @@ Berechnet den Preis einer Beschriftung und gibt ihn als Tabelle aus. Es wird nur
 
   --daten DIR              Verzeichnis mit Ostrowerk.ini, Tessik.ini und Tessik.pdb
   --text TEXT              die Beschriftung
-  --datei DATEI            die Beschriftung aus einer Textdatei ("-": Standardeingabe)
+  --datei DATEI            die Beschriftung aus einer Text- oder RTF-Datei ("-": Standardeingabe)
   --hoehe TEXT             Buchstabenhöhe, wie sie in der Preisliste steht
   --hoehe-nr N             Buchstabenhöhe nach ihrer Nummer in der Preisliste, ab 0
   --stueck TEXT            Stückzahl (1)
