@@ -92,7 +92,7 @@ TEST(Walk, WordsAreUndoneAndRedoneByTheirKeysAndPricedAnew) {
   walk.press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(walk.text("rtfText"), "Auto Haus");
   EXPECT_NE(walk.text("txtStück"), "23");
-  walk.close();
+  walk.leave();
 }
 
 // 8 characters at 10 pieces of 1.00: a net price of 80.00.
