@@ -99,7 +99,8 @@ TEST_P(RichTextContract, aWalkOfChangesLeadsBackAndForth) {
       const Snapshot before(*text);
       {
         const editor::UndoStore::Group step(undo);
-        for (std::int64_t change = upTo(2); change >= 0; --change) {
+        text->replaceSelection(std::to_string(i) + "#");  // so that no step comes to nothing
+        for (std::int64_t change = upTo(2); change > 0; --change) {
           changes()[static_cast<std::size_t>(upTo(std::ssize(changes()) - 1))].second(*text);
         }
       }

@@ -422,6 +422,11 @@ TEST(RichTextEdit, countsStayRightUnderAnyEdits) {
       walker.step(screen);
       ASSERT_NO_FATAL_FAILURE(expectRecounted(screen)) << "seed " << seed << ", step " << step;
     }
+    const Snapshot last(screen.text);
+    while (screen.undo.canUndo()) screen.undo.undo();
+    EXPECT_FALSE(Snapshot(screen.text).sameText(last));
+    while (screen.undo.canRedo()) screen.undo.redo();
+    EXPECT_TRUE(Snapshot(screen.text).sameText(last)) << "seed " << seed;
   }
 }
 
