@@ -1,21 +1,9 @@
 // Which event of which control runs which procedure.
 #include "base/wiring.h"
 
-#include <stdexcept>
-
 #include "base/text.h"
 
 namespace base {
-
-void Wiring::on(EventSource source, Event event, Procedure procedure) {
-  const bool isNew = procedures_.try_emplace({source.identity(), event}, std::move(procedure)).second;
-  if (!isNew) throw std::logic_error("a second procedure for the same event");
-}
-
-void Wiring::onKey(EventSource source, KeyProcedure procedure) {
-  const bool isNew = keys_.try_emplace(source.identity(), std::move(procedure)).second;
-  if (!isNew) throw std::logic_error("a second procedure for the same keys");
-}
 
 bool Wiring::fireKey(EventSource source, char32_t key) const {
   const auto found = keys_.find(source.identity());

@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -60,14 +61,16 @@ class Wiring {
   using RowTip = std::function<std::string(int row)>;
 
   /// A second procedure for the same event is a fault of the program (std::logic_error): the first would be lost.
-  void on(EventSource source, Event event, Procedure procedure);
+  void on(EventSource source, Event event, Procedure procedure) {
+    addOnly(procedures_, std::pair(source.identity(), event), std::move(procedure));
+  }
   /// Every key that comes to a window or control, before it is used otherwise.
-  void onKey(EventSource source, KeyProcedure procedure);
+  void onKey(EventSource source, KeyProcedure procedure) { addOnly(keys_, source.identity(), std::move(procedure)); }
   /// Takes a file that is dropped onto a window.
-  void onFile(const Window& window, FileProcedure procedure) { files_[&window] = std::move(procedure); }
-  void rowTip(const ListBox& list, RowTip tip) { rowTips_[&list] = std::move(tip); }
-  void filter(const TextBox& box, KeyFilter keyFilter) { filters_[&box] = keyFilter; }
-  void filter(const ComboBox& box, KeyFilter keyFilter) { filters_[&box] = keyFilter; }
+  void onFile(const Window& window, FileProcedure procedure) { addOnly(files_, &window, std::move(procedure)); }
+  void rowTip(const ListBox& list, RowTip tip) { addOnly(rowTips_, &list, std::move(tip)); }
+  void filter(const TextBox& box, KeyFilter keyFilter) { addOnly(filters_, &box, keyFilter); }
+  void filter(const ComboBox& box, KeyFilter keyFilter) { addOnly(filters_, &box, keyFilter); }
 
   /// Runs what is wired; false when nothing is.
   bool fire(EventSource source, Event event) const;
@@ -92,6 +95,11 @@ class Wiring {
   [[nodiscard]] bool hasFilter(const Control& box) const { return filters_.contains(&box); }
 
  private:
+  template <typename Map, typename Value>
+  static void addOnly(Map& map, const typename Map::key_type& key, Value value) {
+    if (!map.try_emplace(key, std::move(value)).second) throw std::logic_error("a second procedure for the same event");
+  }
+
   std::map<std::pair<const void*, Event>, Procedure> procedures_;
   std::map<const void*, KeyFilter> filters_;
   std::map<const void*, KeyProcedure> keys_;

@@ -14,9 +14,11 @@ using base::Event;
 
 constexpr std::int64_t kLargeText = 65'000;  // characters of plain text, a line end counted as two
 
-// Only a lettering that costs something is asked about.
+// Only a lettering that costs something is asked about, the whole of it, whatever is marked.
 bool isDirty(const MainParts& parts) {
-  return parts.results.TextLength >= 1 && !editor::isSaved(parts.document, parts.window.rtfText);
+  const base::TextCount count = parts.window.rtfText.countAll();
+  const std::int64_t priced = count.characters - (parts.settings.rates.countBlanks == 0 ? count.blanks : 0);
+  return priced >= 1 && !editor::isSaved(parts.document, parts.window.rtfText);
 }
 
 // Before the document gives way to another. Cancelling ends the command, as does a save that comes to nothing.
@@ -54,10 +56,14 @@ void load(const MainParts& parts, const std::string& path) {
   parts.platform.setHourglass(base::Hourglass::off);
 }
 
+void price(const MainParts& parts) {
+  errors::reporting(parts.reporter, calc::kCalcTag, [&] { calculate(parts); });
+}
+
 // What follows a document that has been loaded.
 void priceLoaded(const MainParts& parts) {
   warnOfLargeText(parts);
-  calculate(parts);
+  price(parts);
 }
 
 void LoadNow(const MainParts& parts) {
@@ -77,7 +83,7 @@ void NewDoc(const MainParts& parts) {
 
 // Runs a procedure that reports by itself; the caller's further steps follow only when it came to its end.
 template <typename Procedure>
-bool came(const MainParts& parts, std::string_view tag, Procedure procedure) {
+bool succeeds(const MainParts& parts, std::string_view tag, Procedure procedure) {
   bool hasEnded = false;
   errors::reporting(parts.reporter, tag, [&] {
     procedure();
@@ -89,29 +95,29 @@ bool came(const MainParts& parts, std::string_view tag, Procedure procedure) {
 void focusDocument(const MainParts& parts) { parts.window.rtfText.wantsFocus = true; }
 
 void open(const MainParts& parts) {
-  if (came(parts, "MAIN-LoadNow", [&] { LoadNow(parts); })) errors::skipping([&] { priceLoaded(parts); });
+  if (succeeds(parts, "MAIN-LoadNow", [&] { LoadNow(parts); })) priceLoaded(parts);
   focusDocument(parts);
 }
 
 void save(const MainParts& parts) {
-  came(parts, "MAIN-SaveNow", [&] { SaveNow(parts); });
+  succeeds(parts, "MAIN-SaveNow", [&] { SaveNow(parts); });
   focusDocument(parts);
 }
 
 void startAnew(const MainParts& parts) {
-  if (!came(parts, "MAIN-NewDoc", [&] { NewDoc(parts); })) return;
+  if (!succeeds(parts, "MAIN-NewDoc", [&] { NewDoc(parts); })) return;
   resetInputs(parts.window);
-  errors::skipping([&] { calculate(parts); });
+  price(parts);
   focusDocument(parts);
 }
 
 void openRecent(const MainParts& parts) {
-  const bool isLoaded = came(parts, "MAIN-mnuLastFile", [&] {
+  const bool isLoaded = succeeds(parts, "MAIN-mnuLastFile", [&] {
     protectUnsaved(parts);
     // Saving first may have given the entry another file.
     load(parts, parts.settings.user.lastFile);
   });
-  if (isLoaded) errors::skipping([&] { priceLoaded(parts); });
+  if (isLoaded) priceLoaded(parts);
   focusDocument(parts);
 }
 
@@ -123,8 +129,10 @@ void SaveNow(const MainParts& parts) {
     const std::string path = editor::saveByDialog(parts.window.rtfText, suggestion, parts.platform);
     editor::markSaved(parts.document, parts.window.rtfText);
     showCurrentFile(parts, path);
-    parts.platform.saveUserSettings({{.key = "LastFile", .value = path}});
     parts.undo.clear();
+    // The document is saved, whatever becomes of this.
+    errors::reporting(parts.reporter, "MAIN-SaveNow",
+                      [&] { parts.platform.saveUserSettings({{.key = "LastFile", .value = path}}); });
   });
 }
 
@@ -137,11 +145,11 @@ void showCurrentFile(const MainParts& parts, const std::string& path) {
 }
 
 void openFile(const MainParts& parts, const std::string& path) {
-  const bool isLoaded = came(parts, "MAIN-LoadNow", [&] {
+  const bool isLoaded = succeeds(parts, "MAIN-LoadNow", [&] {
     protectUnsaved(parts);
     load(parts, path);
   });
-  if (isLoaded) errors::skipping([&] { priceLoaded(parts); });
+  if (isLoaded) priceLoaded(parts);
   focusDocument(parts);
 }
 

@@ -32,13 +32,14 @@ std::optional<pid_t> processOf(std::string_view name) {
   return isWhole && process > 0 ? std::optional(process) : std::nullopt;
 }
 
-fs::path programOf(const std::string& process) {
-  std::error_code ignored;
-  return fs::read_symlink("/proc/" + process + "/exe", ignored).filename();
-}
+// The name of the program that a process runs, which everybody may read, also after the program file was replaced.
+std::string programOf(const std::string& process) { return base::readFile("/proc/" + process + "/comm").value_or(""); }
 
 // After a new start of the system the number may be another program's.
-bool isRunning(pid_t process) { return programOf(std::to_string(process)) == programOf("self"); }
+// One that bears our own number before we have written anything was left behind as well.
+bool isRunning(pid_t process) {
+  return process != ::getpid() && programOf(std::to_string(process)) == programOf("self");
+}
 
 }  // namespace
 
@@ -57,9 +58,10 @@ bool RecoveryCopy::adopt() {
     const auto process = processOf(entry->path().filename().string());
     std::error_code ignored;
     const fs::file_time_type time = entry->last_write_time(ignored);
-    const bool isLeft = process && *process != ::getpid() && !isRunning(*process);
+    const bool isLeft = process && !isRunning(*process);
     if (isLeft && (newest.empty() || time > newestTime)) newest = entry->path(), newestTime = time;
   }
+  if (base::FileExists(path_)) return true;
   if (newest.empty()) return false;
   fs::rename(newest, path_, error);
   return !error;
@@ -73,7 +75,11 @@ base::Document RecoveryCopy::read() const {
 
 void RecoveryCopy::putAside() {
   std::error_code ignored;
-  fs::rename(path_, base::joinPath(directory_, std::string(kStem) + "verworfen" + std::string(kSuffix)), ignored);
+  std::string aside;
+  for (int number = 1; number == 1 || fs::exists(aside, ignored); ++number) {
+    aside = base::joinPath(directory_, "Verworfen-" + std::to_string(number).append(kSuffix));
+  }
+  fs::rename(path_, aside, ignored);
 }
 
 void RecoveryCopy::remove() {

@@ -30,7 +30,7 @@ class RecoveryCopy {
   bool adopt();
   /// What the copy holds.
   [[nodiscard]] base::Document read() const;
-  /// Puts an adopted copy aside, where the next one that nobody wants replaces it.
+  /// Puts an adopted copy aside under the first free name "Verworfen-1.rtf", "Verworfen-2.rtf", …
   void putAside();
   /// There is nothing to recover any more.
   void remove();

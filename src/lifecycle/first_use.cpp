@@ -46,6 +46,8 @@ bool createOnFirstUse(const std::string& directory) {
   if (error) throw base::fileFailure(error.value(), draft);
   samplePriceList().save(settings::Paths{draft}.priceDatabase());
   std::filesystem::rename(draft, directory, error);
+  std::error_code ignored;
+  if (error && std::filesystem::is_directory(directory, ignored)) return false;  // another start was quicker
   if (error) throw base::fileFailure(error.value(), directory);
   return true;
 }

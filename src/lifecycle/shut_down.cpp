@@ -15,7 +15,9 @@ constexpr std::string_view kUnloadTag = "MAIN-frmUnload";
 
 void saveUserKeys(Program& program) {
   settings::UserKeys& keys = program.settings.user;
-  keys.windowState = std::to_string(static_cast<int>(program.windows.main.state));
+  // A window that has not come up yet has no state of its own.
+  const frame::MainWindow& main = program.windows.main;
+  if (main.isOpen) keys.windowState = std::to_string(static_cast<int>(main.state));
   keys.reminderSound = program.settings.reminderSound;
   settings::writeUserKeys(program.platform, keys);
 }
@@ -23,6 +25,8 @@ void saveUserKeys(Program& program) {
 }  // namespace
 
 void unload(Program& program) {
+  // First of all what could not be had again.
+  if (!program.windows.main.mayAsk) errors::reporting(program.reporter, kUnloadTag, [&] { keepForNextStart(program); });
   errors::reporting(program.reporter, kUnloadTag, [&] { saveUserKeys(program); });
   for (const settings::File file : {settings::File::lists, settings::File::general}) {
     errors::reporting(program.reporter, kUnloadTag,

@@ -10,15 +10,34 @@ constexpr int kLookMilliseconds = 2000;  // what is not in the copy is never old
 
 bool isUnsaved(const Program& program) {
   const base::RichText& text = program.windows.main.rtfText;
-  return text.countAll().characters >= 1 && !editor::isSaved(program.document, text);
+  const base::TextCount count = text.countAll();
+  return count.characters + count.lineEnds >= 1 && !editor::isSaved(program.document, text);
 }
+
+constexpr const char* kNoCopy = "Keine Sicherungskopie: bitte speichern";
 
 void tellFailure(Program& program) {
   program.recovery.fellBehind();
-  program.windows.main.lblHinweis.text = "Keine Sicherungskopie: bitte speichern";
+  program.windows.main.lblHinweis.text = kNoCopy;
   program.windows.main.lblHinweis.toolTip =
       "Nach einem Absturz ginge der Text verloren, denn diese Datei lässt sich nicht schreiben: " +
       program.recovery.path();
+}
+
+void takeBackFailure(base::Label& hint) {
+  if (hint.text == kNoCopy) hint.text.clear(), hint.toolTip.clear();
+}
+
+// Asks; true when the text may go.
+bool isAnsweredFor(Program& program) {
+  const base::MessageAnswer answer = editor::askToSave(program.platform);
+  if (answer != base::MessageAnswer::yes) return answer == base::MessageAnswer::no;
+  bool isKept = false;
+  errors::reporting(program.reporter, "MAIN-frmUnload", [&] {
+    commands::SaveNow(partsOf(program));
+    isKept = true;
+  });
+  return isKept;
 }
 
 }  // namespace
@@ -27,27 +46,24 @@ void keepRecoveryCopy(Program& program) {
   const base::RichText& text = program.windows.main.rtfText;
   const std::optional<bool> succeeded = program.platform.asideSucceeded();
   if (!succeeded) return;
-  if (!*succeeded) tellFailure(program);
-  if (!isUnsaved(program)) return program.recovery.remove();
+  const bool isNeeded = isUnsaved(program);
+  isNeeded && !*succeeded ? tellFailure(program) : takeBackFailure(program.windows.main.lblHinweis);
+  if (!isNeeded) return program.recovery.remove();
   if (!program.recovery.isBehind(text)) return;
   if (program.platform.runAside([&program, &text] { program.recovery.write(text); }))
     program.recovery.keepsUpWith(text);
 }
 
-bool mayLeave(Program& program) {
+void keepForNextStart(Program& program) {
+  program.windows.main.tmrSicherung.running = false;
   program.platform.awaitAside();
+  if (isUnsaved(program)) program.recovery.write(program.windows.main.rtfText);
+}
+
+bool mayLeave(Program& program) {
   if (isUnsaved(program)) {
-    if (!program.windows.main.mayAsk) return program.recovery.write(program.windows.main.rtfText), true;
-    const base::MessageAnswer answer = editor::askToSave(program.platform);
-    if (answer == base::MessageAnswer::cancel) return false;
-    if (answer == base::MessageAnswer::yes) {
-      bool isKept = false;
-      errors::reporting(program.reporter, "MAIN-frmUnload", [&] {
-        commands::SaveNow(partsOf(program));
-        isKept = true;
-      });
-      if (!isKept) return false;
-    }
+    if (!program.windows.main.mayAsk) return true;  // it is kept for the next start
+    if (!isAnsweredFor(program)) return false;
   }
   // The copy was written on behind the question, too.
   program.windows.main.tmrSicherung.running = false;
@@ -59,7 +75,13 @@ bool mayLeave(Program& program) {
 void offerRecovered(Program& program) {
   program.windows.main.tmrSicherung = {.running = true, .intervalMilliseconds = kLookMilliseconds};
   if (!program.recovery.adopt()) return;
-  const base::Document left = program.recovery.read();
+  base::Document left;
+  try {
+    left = program.recovery.read();
+  } catch (const base::Failure&) {
+    program.recovery.putAside();
+    throw;
+  }
   const base::MessageAnswer answer =
       program.platform.messageBox({.text = "Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n"
                                            "Soll der nicht gespeicherte Text wiederhergestellt werden?",

@@ -9,6 +9,10 @@ namespace lifecycle {
 /// Brings the recovery copy up to the text, beside the program, so that nobody waits; removes it when all is saved.
 void keepRecoveryCopy(Program& program);
 
+/// Brings the recovery copy up to the text for the start that follows: the desktop ends the program, and nobody is
+/// asked.
+void keepForNextStart(Program& program);
+
 /// Whether the program may end as far as the document is concerned: asks to save it where that is needed, and removes
 /// the recovery copy unless nobody can be asked. A save that fails or is left keeps the program open.
 bool mayLeave(Program& program);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <limits>
 #include <span>
 #include <utility>
 
@@ -102,7 +103,8 @@ class Reader {
 
   void array(std::string_view section, std::span<std::string> slots) {
     const std::vector<std::string> lines = file_.sectionLines(section);
-    if (lines.size() > slots.size()) *isWhole_ = false;
+    constexpr std::size_t kWhole = std::numeric_limits<std::size_t>::max();
+    if (lines.size() > slots.size() || lines != file_.sectionLines(section, kWhole)) *isWhole_ = false;
     std::copy_n(lines.begin(), std::min(lines.size(), slots.size()), slots.begin());
   }
 

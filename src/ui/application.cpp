@@ -39,7 +39,8 @@ std::optional<Options> parse(std::span<const char* const> arguments) {
     } else if (argument == "--exit-after-startup") {
       options.exitAfterStartUp = true;
     } else if (!argument.starts_with('-') && options.file.empty()) {
-      options.file = std::filesystem::absolute(argument, ignored).string();
+      const std::filesystem::path file = std::filesystem::absolute(argument, ignored);
+      options.file = file.empty() ? std::string(argument) : file.string();
     } else {
       std::cerr << "tessik: Unbekanntes oder unvollständiges Argument \"" << argument
                 << "\" (tessik --help zeigt die Optionen)\n";

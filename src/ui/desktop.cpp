@@ -61,6 +61,7 @@ void Desktop::end(Manner manner) {
   if (ending_ == Manner::quietly) return;
   ending_ = manner;
   setMayAsk(manner == Manner::asking);
+  if (manner == Manner::quietly) platform_.setUnattended();
   QTimer::singleShot(0, this, &Desktop::goOnEnding);
 }
 
@@ -88,7 +89,7 @@ void Desktop::dismiss(QWidget& inTheWay) {
 bool Desktop::everyWindowCloses() {
   base::Window& main = program_->windows.main;
   const bool isQuiet = ending_ == Manner::quietly;
-  if (!windows_.closeAllBut(main) && !isQuiet) return false;
+  if (!windows_.closeAllBut(main, isQuiet) && !isQuiet) return false;
   return mayClose(main, Context{program_->wiring, gate_}) || isQuiet;
 }
 

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <utility>
 
@@ -15,8 +16,10 @@ namespace {
 std::array<int, 2> ends = {-1, -1};
 
 void tell(int /*signal*/) {
+  const int before = errno;
   const char byte = 1;
   [[maybe_unused]] const ssize_t ignored = ::write(ends[0], &byte, 1);
+  errno = before;
 }
 
 int opened() {

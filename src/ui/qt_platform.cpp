@@ -88,6 +88,7 @@ std::string chosen(const QString& path) {
 }  // namespace
 
 base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
+  if (isUnattended_) return answer(0, message.buttons);
   const Gate::ModalWait wait(gate_);
   setProgramIcon();
   QMessageBox box(icon(message.icon), toQString(message.title),

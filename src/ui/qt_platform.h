@@ -25,6 +25,8 @@ class QtPlatform : public base::Platform {
   QtPlatform(Gate& gate, Sync& sync, InputFilter& input, ShownWindows& windows)
       : gate_(gate), sync_(sync), input_(input), windows_(windows) {}
 
+  /// Nobody answers any more: questions are answered as if their box was closed, and nothing is shown.
+  void setUnattended() { isUnattended_ = true; }
   /// Another sound for refused actions than the desktop's.
   void setBell(std::function<void()> bell) { bell_ = std::move(bell); }
 
@@ -67,6 +69,7 @@ class QtPlatform : public base::Platform {
   std::function<void()> bell_;
   Aside aside_;
   bool hasHourglass_ = false;
+  bool isUnattended_ = false;
   std::chrono::steady_clock::time_point lastRefresh_;
 };
 

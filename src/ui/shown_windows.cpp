@@ -30,7 +30,10 @@ QDialog& dialogOf(QWidget& widget) {
 // The bindings first: they give the texts of the widgets back to their models. The main window, which the others belong
 // to, goes last.
 void ShownWindows::takeDown() {
-  for (const auto& entry : entries_) delete entry->bindings;
+  for (const auto& entry : entries_) {
+    if (entry->widget != nullptr) entry->widget->removeEventFilter(this);
+    delete entry->bindings;
+  }
   for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) delete (*entry)->widget;
   open_.clear();
   entries_.clear();
@@ -95,11 +98,13 @@ void ShownWindows::requestClose(base::Window& model) {
   QMetaObject::invokeMethod(&widgetOf(model), &QWidget::close, Qt::QueuedConnection);
 }
 
-bool ShownWindows::closeAllBut(const base::Window& last) {
+bool ShownWindows::closeAllBut(const base::Window& last, bool all) {
   const std::vector<Entry*> open = open_;
-  return std::all_of(open.rbegin(), open.rend(), [&](const Entry* entry) {
-    return entry->model == &last || entry->widget->close() || !entry->model->isOpen;
-  });
+  bool haveClosed = true;
+  for (auto entry = open.rbegin(); entry != open.rend() && (haveClosed || all); ++entry) {
+    if ((*entry)->model != &last && !(*entry)->widget->close() && (*entry)->model->isOpen) haveClosed = false;
+  }
+  return haveClosed;
 }
 
 void ShownWindows::opened(Entry& entry) {

@@ -87,7 +87,13 @@ TEST_F(Files, EveryCommandThatReplacesUnsavedWorkAsksFirst) {
     session.click(session.window.*command);
     EXPECT_EQ(session.document.plainText(), command == &frame::MainWindow::mnuNeu ? "" : "Ä b\r\nc");
   }
-  // What costs nothing is not asked about.
+  // The whole lettering counts, not what is marked of it; and what costs nothing is not asked about.
+  session.write("Huber & Co");
+  session.program.settings.rates.countBlanks = 0;
+  session.document.select({5, 1});
+  commands::calculate(session.parts);
+  session.platform.expectMessage(kSaveQuestion, MessageAnswer::cancel);
+  session.click(session.window.mnuNeu);
   session.write("\r\n");
   session.click(session.window.cmdNew);
 }
@@ -191,7 +197,7 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
     EXPECT_EQ(next.document.plainText(), isWanted ? "Huber" : "");
     EXPECT_FALSE(std::filesystem::exists(directory.path("Wiederherstellung-1.rtf")));
     EXPECT_EQ(inFile(isWanted ? next.program.recovery.path().substr(directory.path("").size() + 1)
-                              : std::string("Wiederherstellung-verworfen.rtf")),
+                              : std::string("Verworfen-1.rtf")),
               "Huber");
     if (!isWanted) continue;
     // Nobody can be asked: the copy stays for the next start.

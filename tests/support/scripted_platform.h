@@ -55,8 +55,8 @@ class ScriptedPlatform : public base::Platform {
   base::MessageAnswer messageBox(const base::Message& message) override;
   void showModal(base::Window& window) override;
   void close(base::Window& window) override;
-  void show(base::Window& window) override { log.push_back("show " + std::string(window.name)); }
-  void hide(base::Window& window) override { log.push_back("hide " + std::string(window.name)); }
+  void show(base::Window& window) override { window.isOpen = true, log.push_back("show " + std::string(window.name)); }
+  void hide(base::Window& window) override { window.isOpen = false, log.push_back("hide " + std::string(window.name)); }
   void refresh() override {
     if (onRefresh) onRefresh();
   }

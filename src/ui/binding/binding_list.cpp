@@ -4,6 +4,7 @@
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
 #include <algorithm>
@@ -152,6 +153,7 @@ ListBinding::ListBinding(base::ListBox& model, QListView& widget, const Context&
   widget.setEditTriggers(QAbstractItemView::NoEditTriggers);
   widget.setModel(&rows_);
   widget.viewport()->installEventFilter(this);
+  widget.verticalScrollBar()->installEventFilter(this);
   rows_.setTip([this](int row) { return this->context().wiring.tipOf(model_, row); });
   connect(&widget, &QListView::clicked, this, &ListBinding::click);
   connect(&widget, &QListView::doubleClicked, this, [this] { userChange([this] { fire(Event::doubleClick); }); });

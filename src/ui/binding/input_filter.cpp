@@ -64,12 +64,15 @@ void InputFilter::drop(QEvent& event) {
   event.setAccepted(event.type() == QEvent::ShortcutOverride);
 }
 
+// One after the other: what is delivered runs a procedure, whose end asks for the next.
 void InputFilter::release() {
+  if (std::exchange(isReleasing_, true)) return;
   while (!held_.empty() && gate_.isOpen()) {
     const auto [receiver, event] = std::move(held_.front());
     held_.pop_front();
     if (receiver != nullptr) QCoreApplication::sendEvent(receiver, event.get());
   }
+  isReleasing_ = false;
 }
 
 }  // namespace ui

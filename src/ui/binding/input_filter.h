@@ -34,6 +34,7 @@ class InputFilter : public QObject {
   const Gate& gate_;
   std::deque<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> held_;
   bool escapePressed_ = false;
+  bool isReleasing_ = false;
 };
 
 }  // namespace ui
