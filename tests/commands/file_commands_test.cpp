@@ -2,7 +2,11 @@
 #include "commands/file_commands.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -51,20 +55,28 @@ struct Files : testing::Test {
 
 TEST_F(Files, ASavedNameEndsInLowerCaseRtfAndIsTheCurrentFile) {
   session.write("Huber");
-  saveAs("ANGEBOT.RTF");
-  EXPECT_EQ(inFile("ANGEBOT.RTF.rtf"), "Huber");
-  const std::string path = directory.path("ANGEBOT.RTF.rtf");
+  saveAs("A&B.RTF");
+  EXPECT_EQ(inFile("A&B.RTF.rtf"), "Huber");
+  const std::string path = directory.path("A&B.RTF.rtf");
   EXPECT_EQ(session.window.caption, "Tessik v1.4 - " + path);
-  EXPECT_EQ(session.window.mnuLastFile.text, path);
+  EXPECT_EQ(session.window.mnuLastFile.text, directory.path("A&&B.RTF.rtf"));
   EXPECT_EQ(session.platform.userSettings["LastFile"], path);
   session.write("Meier");
-  session.platform.expectFileDialog(kSaveFilter, directory.path("ANGEBOT.RTF.rtf"));
+  session.platform.expectFileDialog(kSaveFilter, path);
   session.platform.expectMessage({.text = "Die Datei gibt es schon:\r\n" + path + "\r\n\r\nSoll sie ersetzt werden?",
                                   .icon = base::MessageIcon::exclamation,
                                   .buttons = base::MessageButtons::yesNo},
                                  MessageAnswer::no);
   saveAs("Meier.rtf");
-  EXPECT_EQ(inFile("ANGEBOT.RTF.rtf") + inFile("Meier.rtf"), "HuberMeier");
+  EXPECT_EQ(inFile("A&B.RTF.rtf") + inFile("Meier.rtf"), "HuberMeier");
+  session.click(session.window.mnuNeu);
+  EXPECT_EQ(session.program.document.file, "") << "the next suggestion is another";
+}
+
+TEST_F(Files, ASavedFileSuitsReadersThatKnow16BitsOrNoUnicode) {
+  session.write("\u8000ä");
+  saveAs("a.rtf");
+  EXPECT_NE(directory.read("a.rtf").find("\\u-32768?\\u228\\'e4"), std::string::npos) << directory.read("a.rtf");
 }
 
 TEST_F(Files, EveryCommandThatReplacesUnsavedWorkAsksFirst) {
@@ -110,6 +122,7 @@ TEST_F(Files, NewResetsTheInputsAndOpenPricesWhatItShows) {
             "0.000.001");
   EXPECT_EQ(session.document.format(), base::CharFormat{});
   openAs("neu.txt");
+  EXPECT_EQ(session.platform.hourglass, base::Hourglass::off);
   EXPECT_EQ(session.window.lblPreisNettoGesamt.text, "6,25 EUR");
   EXPECT_EQ(session.document.format(), base::CharFormat{});
   session.platform.expectMessage(kSaveQuestion, MessageAnswer::no);
@@ -170,6 +183,12 @@ TEST_F(Files, TheRecoveryCopyFollowsTheTextAndGoesWithACleanEnd) {
   session.write("Huber");
   tick();
   EXPECT_EQ(inFile(copy), "Huber");
+  EXPECT_TRUE(session.window.tmrSicherung.running);
+  std::filesystem::remove(directory.path(copy));
+  session.platform.asideFails = true;
+  tick();
+  EXPECT_EQ(inFile(copy), "Huber") << "what failed is tried again";
+  session.platform.asideFails = false;
   saveAs("Huber");
   tick();
   EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
@@ -178,6 +197,22 @@ TEST_F(Files, TheRecoveryCopyFollowsTheTextAndGoesWithACleanEnd) {
   session.platform.expectMessage(kSaveQuestion, MessageAnswer::no);
   session.end();
   EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
+}
+
+TEST_F(Files, OfSeveralCopiesTheNewestIsTakenWhoseProgramIsGone) {
+  const pid_t running = ::fork();
+  if (running == 0) ::pause(), ::_exit(0);
+  for (const std::string& process : {std::string("999999998"), std::string("999999999"), std::to_string(running)}) {
+    directory.write("Wiederherstellung-" + process + ".rtf", "{\\rtf1 " + process + "}");
+  }
+  const auto now = std::filesystem::file_time_type::clock::now();
+  std::filesystem::last_write_time(directory.path("Wiederherstellung-999999998.rtf"), now - std::chrono::hours(1));
+  EXPECT_TRUE(session.program.recovery.adopt());
+  EXPECT_EQ(base::plainText(session.program.recovery.read()), "999999999");
+  EXPECT_TRUE(session.program.recovery.adopt());
+  EXPECT_FALSE(session.program.recovery.adopt()) << "the other program still needs its own";
+  ::kill(running, SIGKILL);
+  ::waitpid(running, nullptr, 0);
 }
 
 // Process 1 is never this program.

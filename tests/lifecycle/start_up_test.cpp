@@ -80,7 +80,9 @@ TEST(StartUp, AScreenMustHave700PixelsAcross) {
 TEST(StartUp, AFirstStartWritesFilesAndKeysWithoutAsking) {
   const TemporaryDirectory directory;
   Session session(directory);
+  session.platform.userSettings["LastFile"] = "/home/anna/alt.rtf";  // of another version
   session.start();
+  EXPECT_FALSE(session.window.mnuLastFile.visible);
   EXPECT_NE(directory.read("Ostrowerk.ini").find("LZ=1\r\nSnd=/usr/MEDIA/Chimes.wav\r\n"), std::string::npos);
   EXPECT_EQ(filesOf(directory).size(), 2U);
   Texts saved = session.platform.log;

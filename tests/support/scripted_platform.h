@@ -45,6 +45,7 @@ class ScriptedPlatform : public base::Platform {
   std::optional<std::optional<base::Rgb>> colour;
   int beeps = 0;
   bool escape = false;  // was pressed
+  bool asideFails = false;
   base::Hourglass hourglass = base::Hourglass::off;
   base::NumberFormat format;
   std::vector<std::string> families = {"Arial", "DejaVu Sans"};
@@ -61,7 +62,7 @@ class ScriptedPlatform : public base::Platform {
     if (onRefresh) onRefresh();
   }
   bool runAside(const std::function<void()>& work) override { return work(), true; }
-  std::optional<bool> asideSucceeded() override { return true; }
+  std::optional<bool> asideSucceeded() override { return !asideFails; }
   void awaitAside() override {}
   std::string askOpenFile(const base::FileQuestion& question) override { return answerOf(question.filter); }
   std::string askSaveFile(const base::FileQuestion& question) override { return answerOf(question.filter); }
