@@ -79,7 +79,7 @@ TEST(Calc, PricesTheSelectionButNotALoneLineEnd) {
   desk.write("abcdef\nghi");
   EXPECT_FALSE(desk.window.lblMarkierung.visible);
   desk.document.select({.start = 1, .length = 3});
-  desk.program.wiring.fire(desk.document, base::Event::selected);
+  desk.program.wiring.fire(desk.document, base::Event::released);
   EXPECT_EQ(desk.window.lblTextlenBox.text, "3");
   EXPECT_TRUE(desk.window.lblMarkierung.visible && desk.window.lblMarkierungZeichen.visible);
   desk.document.select({.start = 6, .length = 2});
