@@ -36,6 +36,8 @@ TEST_F(InputFilterTest, HoldsBackWhatComesDuringAShortProcedureAndLosesNothing) 
   gate.userEvent([this] {
     for (int i = 0; i < 100; ++i) QTest::keyClicks(&edit, "x");
     hurry();
+    QWidget ofTheProgram;
+    EXPECT_TRUE(ofTheProgram.close());
     EXPECT_EQ(edit.text(), "");
     const Gate::ModalWait box(gate);
     QTest::keyClicks(&edit, "!");

@@ -173,6 +173,16 @@ void typeKeys(ui::RichTextEdit& edit, const QString& keys) {
   }
 }
 
+TEST(RichTextEdit, anEmptiedLineGoesOnInTheFormatOfItsLettersNotOfItsEnd) {
+  Screen screen;
+  typeKeys(screen.edit, "x\ny");
+  screen.text.select({0, 1});
+  screen.text.changeFormat({.bold = true});
+  typeKeys(screen.edit, "\bD");
+  screen.text.select({0, 1});
+  EXPECT_TRUE(screen.text.format().bold);
+}
+
 TEST(RichTextEdit, linesKeepTheFormatThatWasTypedBefore) {
   struct Row {
     QString keys;

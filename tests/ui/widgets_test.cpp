@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QStringListModel>
 #include <QTest>
@@ -71,6 +72,7 @@ TEST(TypefaceComboBox, TheFirstLettersSuffice) {
     if (*row.typed == '\0') QTest::keyClick(&box, Qt::Key_Delete);
     QTest::keyClicks(&box, QString::fromLatin1(row.typed));
     QCoreApplication::processEvents();
+    EXPECT_FALSE(box.lineEdit()->font().italic()) << "while it is being typed";
     QWidget* const popup = box.completer()->popup();
     QTest::keyClick(popup->isVisible() ? popup : &box, row.last);
     EXPECT_EQ(box.currentText().toStdString(), row.text) << row.typed;
@@ -112,6 +114,13 @@ TEST(EditCommands, GoToTheBoxThatHasTheFocus) {
   cut->trigger();
   EXPECT_EQ(box->text(), QString());
   EXPECT_EQ(documentCut.size(), 0);
+
+  QMenu menu;  // borrows the focus
+  emit qApp->focusChanged(box, &menu);
+  box->setText(QStringLiteral("34"));
+  box->selectAll();
+  cut->trigger();
+  EXPECT_EQ(box->text(), QString());
 
   ofDocument->setEnabled(true);
   paper->setFocus();
