@@ -1,13 +1,20 @@
 // Walks through the whole program, keys and clicks alone: what runs here is what people run.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
-#include <QCompleter>
 #include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMimeData>
+#include <QSplitter>
+#include <QUrl>
 #include <filesystem>
 #include <string>
 
@@ -46,8 +53,10 @@ TEST(Walk, AFirstStartAsksNothingAndPricesWhatIsTyped) {
 
 TEST(Walk, AnOrderIsPricedKeyByKeyAndTheSettingsOutliveTheProgram) {
   const Shop shop;
+  QList<int> parts;
   {
     Walk walk(shop);
+    walk.desktop->mainForm().resize(1200, 700);
     EXPECT_EQ(Walk::focus(), "rtfText");
     walk.type("Bäckerei");
     EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "8,00 EUR");
@@ -59,13 +68,27 @@ TEST(Walk, AnOrderIsPricedKeyByKeyAndTheSettingsOutliveTheProgram) {
     EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "400,00 EUR");
     walk.fill("txtStück", "3");
     EXPECT_EQ(walk.text("lblBruttoGesamt"), "55,68 EUR");
+    const auto& typefaces = walk.widget<QComboBox>("cboFontSelect");
+    EXPECT_GT(typefaces.count(), 0);
+    EXPECT_TRUE(typefaces.findText("Arial", Qt::MatchStartsWith) >= 0 || !QFont::substitutes("Arial").isEmpty());
+    walk.press(Qt::Key_C, Qt::AltModifier);
+    walk.type("?");
+    walk.press(Qt::Key_Return);
+    EXPECT_EQ(Walk::focus(), "rtfText");
+    auto& column = walk.widget<QSplitter>("fixTeiler");
+    column.setSizes({column.sizes()[0] - 50, column.sizes()[1] + 50});
+    parts = column.sizes();
     walk.leave();
   }
   EXPECT_NE(shop.file("Ostrowerk.ini").find("Index1=2\r\n"), std::string::npos);
   EXPECT_NE(shop.file("Tessik.ini").find("[RabatteTip2]\r\nStamm\r\nBar\r\n"), std::string::npos);
   Walk again(shop);
+  EXPECT_EQ(again.widget<QSplitter>("fixTeiler").sizes(), parts);
   again.type("AB");
   EXPECT_EQ(again.text("lblPreisNettoGesamt"), "2,00 EUR");
+  again.press(Qt::Key_Home);
+  QTest::keyPress(again.desktop->mainForm().windowHandle(), Qt::Key_Delete);  // and not let go
+  EXPECT_EQ(again.text("lblPreisNettoGesamt"), "1,00 EUR");
   again.leave();
 }
 
@@ -146,6 +169,7 @@ TEST(Walk, SurchargesAndDiscountsAreChosenFromTheirListsAndPickers) {
   walk.whenAsked([&](QDialog& picker) {
     EXPECT_EQ(picker.windowTitle(), "Auswahl Rabatte");
     const auto [list, place] = rowOf(picker, 1);
+    EXPECT_EQ(list->currentIndex().row(), 0);
     EXPECT_EQ(list->model()->index(1, 0).data().toString(), "3 % -> Stamm");
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
   });
@@ -223,13 +247,76 @@ TEST(Walk, TheDesktopEndsTheProgramBehindAnOpenDialog) {
   const Shop shop;
   Walk walk(shop);
   walk.type("AB");
+  base::Window& asking = walk.desktop->program().windows.picker;
+  walk.desktop->program().wiring.on(asking, base::Event::closing, [&] { asking.keepsOpen = true; });
   walk.whenAsked([&](QDialog& picker) {
     walk.desktop->end(Desktop::Manner::quietly);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !picker.isVisible(); }));
   });
   walk.click("cmdAufpreisListe");
   EXPECT_TRUE(QTest::qWaitFor([&] { return walk.desktop->hasEnded(); }));
+  EXPECT_NE(shop.file("Wiederherstellung-" + std::to_string(::getpid()) + ".rtf").find("AB"), std::string::npos);
   EXPECT_NE(shop.userStore().find("SndPfad="), std::string::npos);
+}
+
+TEST(Walk, NeitherAnOpenListNorARunningProcedureKeepsTheProgramFromItsEnd) {
+  const Shop shop;
+  const auto ended = [](const Walk& walk) { return QTest::qWaitFor([&] { return walk.desktop->hasEnded(); }); };
+  {
+    Walk walk(shop);
+    walk.widget<QComboBox>("cboBuchstabenhöhe").showPopup();
+    walk.desktop->end(Desktop::Manner::asking);
+    EXPECT_TRUE(ended(walk));
+  }
+  Walk walk(shop);
+  walk.desktop->run([&] {
+    walk.desktop->end(Desktop::Manner::asking);
+    QCoreApplication::processEvents();
+  });
+  EXPECT_TRUE(ended(walk));
+}
+
+TEST(Walk, WhatIsTypedDuringLongWorkIsDroppedAndNothingBehindIt) {
+  const Shop shop;
+  Walk walk(shop);
+  base::Platform& platform = walk.desktop->platform();
+  auto* const paper = &walk.widget<QWidget>("rtfText");
+  const auto typeAhead = [&](char key) {
+    QCoreApplication::postEvent(paper, new QKeyEvent(QEvent::KeyPress, 0, {}, QString(QLatin1Char(key))));
+  };
+  walk.desktop->run([&] {
+    platform.setHourglass(base::Hourglass::on);
+    typeAhead('a');
+    platform.setHourglass(base::Hourglass::off);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    typeAhead('b');
+    QCoreApplication::processEvents();
+  });
+  EXPECT_EQ(walk.text("rtfText"), "b");
+  walk.leave();
+}
+
+TEST(Walk, OneFileThatIsDroppedOnTheWindowIsOpenedAndTwoAreNot) {
+  const Shop shop;
+  shop.write("neu.txt", "Huber");
+  Walk walk(shop);
+  walk.type("AB");
+  const QUrl file = QUrl::fromLocalFile(QString::fromStdString(shop.data + "/neu.txt"));
+  const auto drop = [&](const QList<QUrl>& files) {
+    QMimeData data;
+    data.setUrls(files);
+    QDragEnterEvent arrival({}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&walk.desktop->mainForm(), &arrival);
+    QDropEvent event({}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&walk.desktop->mainForm(), &event);
+    walk.settle();
+  };
+  drop({file, file});
+  EXPECT_EQ(walk.text("rtfText"), "AB");
+  walk.expectBox("Möchten Sie die Änderungen speichern?", QMessageBox::No);
+  drop({file});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return walk.text("rtfText") == "Huber"; }));
+  walk.close();
 }
 
 TEST(Walk, ExitEndsTheProgramLikeItsCloseButton) {
@@ -240,25 +327,30 @@ TEST(Walk, ExitEndsTheProgramLikeItsCloseButton) {
   EXPECT_NE(shop.userStore().find("SndPfad="), std::string::npos);
 }
 
-/// Types a name into a file dialog of the toolkit, which starts in the working directory, and agrees.
+/// Enters a name into a file dialog of the toolkit, which starts in the working directory, and agrees.
 void chooseFile(QDialog& dialog, const QString& file) {
   auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
   ASSERT_NE(name, nullptr) << dialog.windowTitle().toStdString();
   name->setFocus();
   name->selectAll();
-  QTest::keyClicks(name, file);
-  name->completer()->popup()->hide();  // or Return would take what it proposes
+  name->insert(file);  // typed, the dialog would propose something else
   QTest::keyClick(name, Qt::Key_Return);
 }
 
 TEST(Walk, ADocumentIsSavedAskedForAndOpenedAgain) {
   const Shop shop;
   QDir::setCurrent(QString::fromStdString(shop.directory.path("")));
-  const std::string path = shop.directory.path("Angebot.rtf");
+  std::filesystem::create_directory(shop.directory.path("Kunden"));
+  const std::string path = shop.directory.path("Kunden/Angebot.rtf");
   {
     Walk walk(shop);
     walk.type("Huber");
-    walk.whenAsked([](QDialog& dialog) { chooseFile(dialog, "Angebot.rtf"); });
+    walk.whenAsked([](QDialog& dialog) {
+      const auto& files = dynamic_cast<const QFileDialog&>(dialog);
+      EXPECT_EQ(files.nameFilters(), QStringList{"RTF-Dokument (*.rtf *.RTF)"});
+      EXPECT_TRUE(files.testOption(QFileDialog::DontConfirmOverwrite));
+      chooseFile(dialog, "Kunden/Angebot.rtf");
+    });
     walk.press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(walk.desktop->mainForm().windowTitle().toStdString(), "Tessik v1.4 - " + path);
     EXPECT_EQ(Walk::focus(), "rtfText");
