@@ -3,9 +3,11 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QShortcut>
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <set>
@@ -27,6 +29,14 @@ TEST(Forms, EachWindowDrawsEveryControlAndNothingElse) {
     const std::unique_ptr<QWidget> form(ui::formOf(window.name).build(nullptr));
     EXPECT_EQ(ui::mismatches(window, *form), kNone) << window.name;
   });
+}
+
+TEST(Forms, ABoundMenuKeepsItsSeparators) {
+  frame::MainWindow window;
+  ui::MainForm form;
+  EXPECT_EQ(ui::mismatches(window, form), kNone);
+  const QList<QAction*> entries = form.findChild<QMenu*>(QStringLiteral("fixDatei"))->actions();
+  EXPECT_EQ(std::count_if(entries.begin(), entries.end(), [](QAction* each) { return each->isSeparator(); }), 2);
 }
 
 // Whoever cannot see the window hears what each field is for.

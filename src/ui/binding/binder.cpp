@@ -109,8 +109,6 @@ std::unique_ptr<Binding> makeBinding(base::RichTextBox& model, QObject& shown, c
 BoundWindow::BoundWindow(base::Window& model, QWidget& form, const Context& context, Sync& sync)
     : QObject(&form), context_(context), sync_(sync) {
   for (QObject* object : form.findChildren<QObject*>()) {
-    // Designer draws a separator as an action with this property.
-    if (auto* action = qobject_cast<QAction*>(object)) action->setSeparator(action->property("separator").toBool());
     const bool canShow = object->isWidgetType() || qobject_cast<QAction*>(object) != nullptr;
     if (!canShow || isFurniture(object->objectName())) continue;
     const auto [place, isNew] = unbound_.emplace(toUtf8(object->objectName()), object);
