@@ -290,6 +290,7 @@ std::uint32_t MemoryRichText::numberOf(const CharFormat& format) {
 
 std::vector<std::uint32_t> MemoryRichText::numbersOf(const std::vector<CharFormat>& formats) {
   std::vector<std::uint32_t> result;
+  result.reserve(formats.size());
   for (const CharFormat& format : formats) result.push_back(numberOf(format));
   return result;
 }

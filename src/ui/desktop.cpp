@@ -89,7 +89,8 @@ void Desktop::dismiss(QWidget& inTheWay) {
 bool Desktop::everyWindowCloses() {
   base::Window& main = program_->windows.main;
   const bool isQuiet = ending_ == Manner::quietly;
-  if (!windows_.closeAllBut(main, isQuiet) && !isQuiet) return false;
+  const auto refusal = isQuiet ? ShownWindows::Refusal::isPassedOver : ShownWindows::Refusal::ends;
+  if (!windows_.closeAllBut(main, refusal) && !isQuiet) return false;
   return mayClose(main, Context{program_->wiring, gate_}) || isQuiet;
 }
 

@@ -98,10 +98,10 @@ void ShownWindows::requestClose(base::Window& model) {
   QMetaObject::invokeMethod(&widgetOf(model), &QWidget::close, Qt::QueuedConnection);
 }
 
-bool ShownWindows::closeAllBut(const base::Window& last, bool all) {
+bool ShownWindows::closeAllBut(const base::Window& last, Refusal refusal) {
   const std::vector<Entry*> open = open_;
   bool haveClosed = true;
-  for (auto entry = open.rbegin(); entry != open.rend() && (haveClosed || all); ++entry) {
+  for (auto entry = open.rbegin(); entry != open.rend() && (haveClosed || refusal == Refusal::isPassedOver); ++entry) {
     if ((*entry)->model != &last && !(*entry)->widget->close() && (*entry)->model->isOpen) haveClosed = false;
   }
   return haveClosed;

@@ -39,9 +39,10 @@ class ShownWindows : public QObject {
   /// Closes the window, once the procedure under way has ended, if it lets itself be closed.
   void requestClose(base::Window& model);
 
-  /// Closes every open window but `last`, the newest first; false when one refuses, which the others are spared then
-  /// unless `all` are to be asked.
-  bool closeAllBut(const base::Window& last, bool all);
+  /// What becomes of the other windows when one refuses to close.
+  enum class Refusal { ends, isPassedOver };
+  /// Closes every open window but `last`, the newest first; false when one refuses.
+  bool closeAllBut(const base::Window& last, Refusal refusal);
 
   /// Takes every window from the screen for good, while the models are still there.
   void takeDown();

@@ -209,7 +209,9 @@ TEST_F(Files, OfSeveralCopiesTheNewestIsTakenWhoseProgramIsGone) {
   std::filesystem::last_write_time(directory.path("Wiederherstellung-999999998.rtf"), now - std::chrono::hours(1));
   EXPECT_TRUE(session.program.recovery.adopt());
   EXPECT_EQ(base::plainText(session.program.recovery.read()), "999999999");
+  session.program.recovery.putAside();
   EXPECT_TRUE(session.program.recovery.adopt());
+  session.program.recovery.putAside();
   EXPECT_FALSE(session.program.recovery.adopt()) << "the other program still needs its own";
   ::kill(running, SIGKILL);
   ::waitpid(running, nullptr, 0);

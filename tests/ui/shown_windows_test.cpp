@@ -41,11 +41,11 @@ TEST_F(ShownWindowsTest, CloseTheNewestFirstUntilOneRefuses) {
   shown.showLateOnes();
   shown.show(models.picker);
   refusing = &models.loading;
-  EXPECT_FALSE(shown.closeAllBut(models.main));
+  EXPECT_FALSE(shown.closeAllBut(models.main, ShownWindows::Refusal::ends));
   EXPECT_EQ(asked, (Names{"frmAuswahlAR", "frmLoad"}));
   EXPECT_TRUE(models.loading.isOpen && !models.picker.isOpen);
   refusing = nullptr;
-  EXPECT_TRUE(shown.closeAllBut(models.main));
+  EXPECT_TRUE(shown.closeAllBut(models.main, ShownWindows::Refusal::ends));
   EXPECT_TRUE(models.main.isOpen && !models.loading.isOpen);
 }
 
