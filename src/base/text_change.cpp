@@ -31,7 +31,8 @@ struct Pair {
     return old.alignment == now.alignment && sameFormat(old.endFormat, now.endFormat);
   }
   [[nodiscard]] bool sameFormat(std::uint32_t oldNumber, std::uint32_t newNumber) const {
-    return before.formats[oldNumber] == after.formats[newNumber];
+    const bool isSameNumber = &before.formats == &after.formats && oldNumber == newNumber;
+    return isSameNumber || before.formats[oldNumber] == after.formats[newNumber];
   }
   [[nodiscard]] bool isWhole(std::size_t size) const { return size == old.text.size() && size == now.text.size(); }
 

@@ -13,7 +13,7 @@ namespace ui {
 ChangeWatch::ChangeWatch(const QTextDocument& document, const TextIndex& index, base::TextListener& listener,
                          base::TextSelection selection)
     : document_(document), index_(index), listener_(listener), selection_(selection) {
-  readAll();
+  kept_ = paragraphs({0, 0});
 }
 
 // The toolkit's figures may reach one beyond either end.
@@ -45,10 +45,11 @@ void ChangeWatch::settle(base::TextSelection selection) {
   listener_.changed(std::move(*change));
 }
 
-void ChangeWatch::settleAnew(base::TextSelection selection) {
+void ChangeWatch::settleAnew(base::TextSelection selection, base::Document present) {
   selection_ = selection;
   touched_.reset();
-  readAll();
+  reader_ = ParagraphReader(std::move(present.formats));
+  kept_ = std::move(present.paragraphs);
   listener_.replaced();
 }
 
@@ -56,11 +57,6 @@ void ChangeWatch::moveSelection(base::TextSelection selection) {
   if (selection == selection_) return;
   selection_ = selection;
   listener_.selectionMoved();
-}
-
-void ChangeWatch::readAll() {
-  reader_ = {};
-  kept_ = paragraphs({0, 0});
 }
 
 std::vector<base::Paragraph> ChangeWatch::paragraphs(Touched touched) {

@@ -24,8 +24,8 @@ class ChangeWatch {
   void note(int from, int added);
   /// and its end: all that was noted is one change.
   void settle(base::TextSelection selection);
-  /// The same where the whole text was set anew.
-  void settleAnew(base::TextSelection selection);
+  /// The same where the whole text was set anew; `present` is what it is now.
+  void settleAnew(base::TextSelection selection, base::Document present);
   void moveSelection(base::TextSelection selection);
 
  private:
@@ -34,7 +34,6 @@ class ChangeWatch {
     int behind;  // how many paragraphs are behind the last one touched
   };
 
-  void readAll();
   [[nodiscard]] std::vector<base::Paragraph> paragraphs(Touched touched);
   void keep(Touched touched, std::vector<base::Paragraph> present);
 

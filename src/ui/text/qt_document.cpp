@@ -89,21 +89,26 @@ class Inserter {
 }  // namespace
 
 base::Paragraph ParagraphReader::read(const QTextBlock& block, int begin, int end) {
+  const QString whole = block.text();
+  const bool isClean = cleanedText(whole).size() == whole.size();
   base::Paragraph result;
-  for (auto i = block.begin(); !i.atEnd(); ++i) add(result, i.fragment(), begin, end);
+  int position = block.position();
+  const int start = position;
+  for (auto i = block.begin(); !i.atEnd(); ++i) {
+    const QTextFragment fragment = i.fragment();
+    const int from = std::max(position, begin);
+    position += fragment.length();
+    const int to = std::min(position, end);
+    if (from >= to) continue;
+    const QStringView piece = QStringView(whole).sliced(from - start, to - from);
+    const QByteArray bytes = isClean ? piece.toUtf8() : cleanedText(piece.toString()).toUtf8();
+    if (bytes.isEmpty()) continue;
+    result.text.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    result.runs.push_back({static_cast<std::uint32_t>(bytes.size()), number(fragment)});
+  }
   result.endFormat = number(block);
   result.alignment = alignmentOf(block.blockFormat());
   return result;
-}
-
-void ParagraphReader::add(base::Paragraph& paragraph, const QTextFragment& fragment, int begin, int end) {
-  const int from = std::max(fragment.position(), begin);
-  const int to = std::min(fragment.position() + fragment.length(), end);
-  if (from >= to) return;
-  const QByteArray bytes = cleanedText(fragment.text().mid(from - fragment.position(), to - from)).toUtf8();
-  if (bytes.isEmpty()) return;
-  paragraph.text.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-  paragraph.runs.push_back({static_cast<std::uint32_t>(bytes.size()), number(fragment)});
 }
 
 // Of a block or fragment; each format of the toolkit is converted once.

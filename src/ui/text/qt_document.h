@@ -23,6 +23,10 @@ void exchangeSelection(QTextCursor& cursor, const base::Document& fragment);
 /// Takes paragraphs out of one document of the toolkit, their formats numbered in one table.
 class ParagraphReader {
  public:
+  ParagraphReader() = default;
+  /// With a table that begins with `formats`.
+  explicit ParagraphReader(std::vector<base::CharFormat> formats) : formats_(std::move(formats)) {}
+
   /// As far as it lies between two positions of the toolkit.
   base::Paragraph read(const QTextBlock& block, int begin, int end);
   base::Paragraph read(const QTextBlock& block) {
@@ -38,7 +42,6 @@ class ParagraphReader {
     std::uint32_t number;
   };
 
-  void add(base::Paragraph& paragraph, const QTextFragment& fragment, int begin, int end);
   template <typename Part>
   std::uint32_t number(const Part& part);
 

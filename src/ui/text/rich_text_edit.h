@@ -95,7 +95,8 @@ class RichTextEdit : public QTextEdit {
   void keepFormat();
   void giveLineEnd(const QTextBlock& block, const QTextCharFormat& format);
   void mergeSelectionFormat(QTextCursor selection, const QTextCharFormat& change);
-  void replaceWhole(const std::function<void(QTextCursor&)>& fill);
+  bool replaceWhole(const std::function<void(QTextCursor&)>& fill);
+  void tellWhole(const base::Document* given);
   void settleQuietly(const std::function<void()>& edit);
   void noteCaret();
   [[nodiscard]] Ends ends() const;

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/rich_text.h"
+#include "base/text.h"
 #include "qtcore/locale.h"
 #include "ui/text/utf16_count.h"
 
@@ -106,7 +107,24 @@ void appendDecomposed(const QString& text, int position, std::vector<Decomposed>
   }
 }
 
+// Told at a glance of most texts.
+bool staysAsItIs(std::string_view text) {
+  const auto isPlain = [](char c) { return c >= ' ' || c == '\t'; };
+  if (std::all_of(text.begin(), text.end(), isPlain)) return true;
+  while (!text.empty()) {
+    const char32_t c = base::takeCodePoint(text);
+    const bool endsLine = c == U'\n' || c == U'\r' || c == QChar::ParagraphSeparator;
+    if (endsLine || c == QChar::ReplacementCharacter || !base::isTextCharacter(c)) return false;
+  }
+  return true;
+}
+
 }  // namespace
+
+bool staysAsItIs(const base::Document& document) {
+  return std::all_of(document.paragraphs.begin(), document.paragraphs.end(),
+                     [](const base::Paragraph& paragraph) { return staysAsItIs(paragraph.text); });
+}
 
 QString cleanedText(const QString& text) {
   if (isClean(text)) return text;

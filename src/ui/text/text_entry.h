@@ -5,6 +5,8 @@
 #include <QTextDocument>
 #include <vector>
 
+#include "base/document.h"
+
 namespace ui {
 
 /// `text` without lone surrogates and what base::isTextCharacter() refuses.
@@ -13,6 +15,9 @@ QString cleanedText(const QString& text);
 /// `text` fit for a document: composed, without lone surrogates and what base::isTextCharacter() refuses, each U+2028 a
 /// line feed. Other line ends are left to the toolkit, which knows them all.
 QString enteringText(const QString& text);
+
+/// Whether a document of the toolkit takes the texts of `document` as they are, composing apart.
+bool staysAsItIs(const base::Document& document);
 
 /// A piece of a document that shall give way to its composed form.
 struct Decomposed {
