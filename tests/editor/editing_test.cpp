@@ -46,12 +46,29 @@ TEST(Editing, EachCommandChangesTextAndClipboardAndIsFollowedByTheCalculation) {
   }
 }
 
+TEST(Editing, FormatsAreCopiedAndPastedUnlessTheyShallNot) {
+  LetteringDesk desk;
+  desk.document.select({.start = 1, .length = 2});
+  desk.document.changeFormat({.bold = true});
+  desk.click(desk.window.mnuCopyAll);
+  EXPECT_EQ(desk.platform.clipboardFormats, desk.document.document());
+  desk.click(desk.window.mnuCopy);
+  desk.document.select({.start = 5, .length = 0});
+  desk.click(desk.window.mnuPaste);
+  EXPECT_TRUE(desk.document.format().bold);
+  desk.document.select({.start = 0, .length = 0});
+  desk.click(desk.window.mnuPastePlain);
+  EXPECT_EQ(desk.document.plainText(), "olFolieol");
+  EXPECT_FALSE(desk.document.format().bold);
+}
+
 TEST(Editing, CommandsNeedALettering) {
   LetteringDesk desk;
   const MainWindow& w = desk.window;
   desk.click(w.mnuMarkAll);
   desk.click(w.mnuCut);
-  EXPECT_TRUE(w.mnuPaste.enabled);
+  EXPECT_TRUE(w.mnuPaste.enabled && w.mnuPastePlain.enabled);
+  EXPECT_FALSE(w.mnuCopyAll.enabled);
   EXPECT_FALSE(w.mnuCut.enabled || w.mnuCopy.enabled || w.mnuDelete.enabled || w.mnuMarkAll.enabled);
   desk.click(w.mnuPaste);
   EXPECT_TRUE(w.mnuCut.enabled && w.mnuCopy.enabled && w.mnuDelete.enabled && w.mnuMarkAll.enabled);

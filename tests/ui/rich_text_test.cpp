@@ -130,6 +130,8 @@ TEST(RichTextEdit, pastesPlainTextInTheFormatOfTheCaret) {
       {"1\u00A02\r\n3", "", "1\u00A02\r\n3"},
       {"", "<b>1&nbsp;2</b><br>3<p>4 <img src='x.png'>5</p>", "1\u00A02\r\n3\r\n4 5"},
       {"no", "<h1>yes</h1>", "yes"},
+      {"", "<table><tr><td>1</td><td>2</td></tr><tr><td>3</td><td><p>4</p>5</td></tr></table>", "1\t2\r\n3\t4\r\n5"},
+      {"", "a<table><tr><td>1</td></tr></table>b", "a\r\n1\r\nb"},
       {"a\u0308", "", "ä"},
       {noCharacters, "", "1z"},
       {"", "", ""},
@@ -276,6 +278,32 @@ TEST(RichTextEdit, aLongUnbrokenRunIsBrokenAnywhere) {
   screen.text.replaceSelection("x");
   screen.text.setPlainText("");
   EXPECT_EQ(mode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+TEST(RichTextEdit, pastesRtfUnderEachOfItsNamesAndElseTheText) {
+  struct Row {
+    const char* type;
+    QByteArray bytes;
+    std::string expected;
+    bool isBold;
+  };
+  const Row rows[] = {{"text/rtf", "{\\rtf1\\b fett}", "xfett", true},
+                      {"text/richtext", "{\\rtf1\\b fett\\par}", "xfett", true},
+                      {"application/rtf", "{\\rtf1{\\fonttbl}\\b fe\\'84tt}", "xfe\u201Ett", true},
+                      {"text/rtf", "{\\rtf1{\\pict 00}}", "xText", false},
+                      {"text/richtext", "<bold>no RTF</bold>", "xText", false}};
+  for (const Row& row : rows) {
+    Screen screen;
+    screen.text.setPlainText("x");
+    screen.edit.moveCursor(QTextCursor::End);
+    auto* const source = new QMimeData;
+    source->setText("Text");
+    source->setData(QString::fromLatin1(row.type), row.bytes);
+    QApplication::clipboard()->setMimeData(source);
+    screen.edit.paste();
+    EXPECT_EQ(screen.text.plainText(), row.expected);
+    EXPECT_EQ(screen.text.format().bold, row.isBold) << row.expected;
+  }
 }
 
 TEST(RichTextEdit, copiesNoBreakSpacesAsSuch) {

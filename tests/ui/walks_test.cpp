@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QColorDialog>
+#include <QCompleter>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -13,7 +15,9 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSplitter>
+#include <QTextEdit>
 #include <QUrl>
 #include <filesystem>
 #include <string>
@@ -115,6 +119,106 @@ TEST(Walk, WordsAreUndoneAndRedoneByTheirKeysAndPricedAnew) {
   walk.press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(walk.text("rtfText"), "Auto Haus");
   EXPECT_NE(walk.text("txtStück"), "23");
+  walk.leave();
+}
+
+// What the bar shows of the format at the caret, in the order of its buttons.
+std::string shownFormat(const Walk& walk) {
+  std::string shown;
+  for (const char* const name : {"cmdFett", "mnuDurchgestrichen", "mnuLinks", "mnuZentriert", "mnuRechts"}) {
+    shown += walk.desktop->mainForm().findChild<QAction*>(QString::fromLatin1(name))->isChecked() ? 'x' : '-';
+  }
+  return shown;
+}
+
+TEST(Walk, FormatsAreTypedByKeysShownAtTheCaretAndCopied) {
+  const Shop shop;
+  Walk walk(shop);
+  const auto& text = walk.desktop->program().windows.main.rtfText;
+  walk.press(Qt::Key_B, Qt::ControlModifier);
+  walk.press(Qt::Key_E, Qt::ControlModifier);
+  walk.type("Brot");
+  EXPECT_EQ(shownFormat(walk), "x--x-");
+  walk.press(Qt::Key_Return);
+  walk.press(Qt::Key_R, Qt::ControlModifier);
+  walk.press(Qt::Key_X, Qt::ControlModifier | Qt::ShiftModifier);
+  walk.desktop->mainForm().resize(1280, 600);  // or the bar has no room for it
+  walk.widget<QComboBox>("cboFontSize").setFocus(Qt::TabFocusReason);
+  walk.type("13,7");
+  walk.press(Qt::Key_Return);
+  EXPECT_EQ(Walk::focus(), "rtfText");
+  walk.type("alt");
+  EXPECT_EQ(shownFormat(walk) + walk.text("cboFontSize"), "xx--x13.5");
+  walk.press(Qt::Key_Up);
+  EXPECT_EQ(shownFormat(walk) + walk.text("cboFontSize"), "x--x-8");
+  walk.press(Qt::Key_E, Qt::ControlModifier);
+  EXPECT_EQ(shownFormat(walk), "x--x-") << "chosen again";
+
+  const base::Document typed = text.document();
+  walk.press(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "Brot\nalt");
+  walk.press(Qt::Key_A, Qt::ControlModifier);
+  walk.press(Qt::Key_Delete);
+  walk.press(Qt::Key_L, Qt::ControlModifier);
+  walk.press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_TRUE(base::sameContent(text.document(), typed));
+  walk.press(Qt::Key_A, Qt::ControlModifier);
+  walk.press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(shownFormat(walk).substr(0, 2) + walk.text("cboFontSize"), "x-8") << "as the first of what gave way";
+  EXPECT_EQ(text.plainText(), "Brot\r\nalt");
+  walk.leave();
+}
+
+TEST(Walk, TheZoomOfTheViewIsKeptAndTheDocumentKnowsNothingOfIt) {
+  const Shop shop;
+  {
+    Walk walk(shop);
+    walk.type("Brot");
+    const auto& text = walk.desktop->program().windows.main.rtfText;
+    const base::Document before = text.document();
+    EXPECT_EQ(walk.text("fixAnsichtsgröße"), "300 %");
+    const int height = walk.widget<QTextEdit>("rtfText").cursorRect().height();
+    walk.press(Qt::Key_Plus, Qt::ControlModifier);
+    walk.press(Qt::Key_Plus, Qt::ControlModifier);
+    walk.press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_NEAR(walk.widget<QTextEdit>("rtfText").cursorRect().height(), 2 * height, 4);
+    EXPECT_EQ(text.document(), before);
+    EXPECT_EQ(walk.text("cboFontSize") + walk.text("fixAnsichtsgröße"), "8600 %");
+    walk.leave();
+  }
+  Walk again(shop);
+  EXPECT_EQ(again.text("fixAnsichtsgröße"), "600 %");
+  again.click("fixAnsichtsgröße");
+  EXPECT_EQ(again.text("fixAnsichtsgröße"), "300 %");
+  again.close();
+}
+
+TEST(Walk, ColoursAndFontsComeFromTheirDialogs) {
+  const Shop shop;
+  Walk walk(shop);
+  const auto& text = walk.desktop->program().windows.main.rtfText;
+  walk.type("A");
+  walk.press(Qt::Key_A, Qt::ControlModifier);
+  walk.whenAsked([](QDialog& dialog) {
+    dynamic_cast<QColorDialog&>(dialog).setCurrentColor(Qt::red);
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  walk.press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  walk.whenAsked([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+  const base::CharFormat red = text.format();
+  EXPECT_EQ(red.colour, 0xFF0000U);
+  walk.press(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(text.format(), red) << "nothing chosen";
+  walk.whenAsked([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+  walk.press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(text.format(), red);
+  walk.whenAsked([](QDialog& dialog) {
+    for (auto* const button : dialog.findChildren<QPushButton*>()) {
+      if (button->text().endsWith(QStringLiteral("matisch"))) button->click();
+    }
+  });
+  walk.press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(text.format(), base::CharFormat{});
   walk.leave();
 }
 
