@@ -4,9 +4,11 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
 #include <QWheelEvent>
 #include <algorithm>
 #include <utility>
@@ -127,6 +129,19 @@ void RichTextEdit::wheelEvent(QWheelEvent* event) {
   zoomBySteps(wheelTurn_ / QWheelEvent::DefaultDeltasPerStep);
   wheelTurn_ %= QWheelEvent::DefaultDeltasPerStep;
   event->accept();
+}
+
+void RichTextEdit::paintEvent(QPaintEvent* event) {
+  QTextEdit::paintEvent(event);
+  const QTextBlock line = textCursor().block();
+  const bool isComposing = !line.layout()->preeditAreaText().isEmpty();
+  if (!document()->isEmpty() || isComposing || alignmentOf(line.blockFormat()) != base::Alignment::left) return;
+  const QRect caret = cursorRect();
+  const int gap = fontMetrics().averageCharWidth() / 2;
+  const QRect room(caret.right() + gap, caret.top(), viewport()->width() - caret.right() - 2 * gap, caret.height());
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.drawText(room, Qt::AlignVCenter, fontMetrics().elidedText(hint_, Qt::ElideRight, room.width()));
 }
 
 void RichTextEdit::setZoom(int percent) {
@@ -298,6 +313,7 @@ void RichTextEdit::settleChange() {
 
 void RichTextEdit::tellChange() {
   changing_ = false;
+  if (std::exchange(wasEmpty_, document()->isEmpty()) != wasEmpty_) viewport()->update();  // the hint
   emit edited();
   noteCaret();
 }

@@ -50,6 +50,9 @@ class RichTextEdit : public QTextEdit {
   /// Merged into the formats of the selection and the line ends in it, or into that of what is typed next.
   void mergeFormat(const QTextCharFormat& change);
 
+  /// What an empty document shows beside its caret, at any zoom in the type of the desktop.
+  void setHint(const QString& hint) { hint_ = hint; }
+
   /// The size of the view in percent; the document has nothing of it. Ctrl with the wheel changes it as well.
   [[nodiscard]] int zoom() const { return zoom_.percent(); }
   void setZoom(int percent);
@@ -75,6 +78,7 @@ class RichTextEdit : public QTextEdit {
   void keyReleaseEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
@@ -111,6 +115,8 @@ class RichTextEdit : public QTextEdit {
   Ends lastEnds_;                       // when the document had settled last, and the format there
   QTextCharFormat lastFormat_;
   bool leavesKeys_ = false;
+  QString hint_;
+  bool wasEmpty_ = true;
   ViewZoom zoom_{*this};
   int wheelTurn_ = 0;  // what has not yet made a whole step, in eighths of a degree
 };
