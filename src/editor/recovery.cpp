@@ -32,8 +32,15 @@ std::optional<pid_t> processOf(std::string_view name) {
   return isWhole && process > 0 ? std::optional(process) : std::nullopt;
 }
 
-// The name of the program that a process runs, which everybody may read, also after the program file was replaced.
-std::string programOf(const std::string& process) { return base::readFile("/proc/" + process + "/comm").value_or(""); }
+// The name of the program that a process runs, which everybody may read, also after the program file was replaced;
+// empty for a process that has ended and only waits to be noticed.
+std::string programOf(const std::string& process) {
+  const std::string state = base::readFile("/proc/" + process + "/stat").value_or("");
+  const std::size_t begin = state.find('(');
+  const std::size_t end = state.rfind(") ");
+  if (begin == std::string::npos || end == std::string::npos || state.substr(end + 2, 1) == "Z") return {};
+  return state.substr(begin, end - begin);
+}
 
 // After a new start of the system the number may be another program's.
 // One that bears our own number before we have written anything was left behind as well.

@@ -68,6 +68,8 @@ void Desktop::end(Manner manner) {
 // One thing at a time: what is dismissed lets its procedure go on, which may open the next.
 void Desktop::goOnEnding() {
   if (!ending_ || hasEnded_) return;
+  // The questions of the windows that are being closed are the person's to answer, unless nobody is there any more.
+  if (isClosing_ && ending_ == Manner::asking) return;
   QWidget* const popup = QApplication::activePopupWidget();
   QWidget* const inTheWay = popup != nullptr ? popup : QApplication::activeModalWidget();
   if (inTheWay != nullptr) return dismiss(*inTheWay);

@@ -476,6 +476,17 @@ TEST(Walk, AClosedWindowKeepsTheLetteringUntilItIsAnsweredFor) {
   const Shop shop;
   Walk walk(shop);
   walk.type("Huber");
+  // A timer that ticks behind the question answers nothing.
+  walk.whenAsked([&](QDialog& question) {
+    walk.desktop->program().windows.main.tmrSicherung.intervalMilliseconds = 1;
+    walk.desktop->run([] {});
+    QTest::qWait(50);
+    EXPECT_TRUE(question.isVisible());
+    QTest::keyClick(&question, Qt::Key_Escape);
+  });
+  QMetaObject::invokeMethod(&walk.desktop->mainForm(), &QWidget::close, Qt::QueuedConnection);
+  QTest::qWait(150);
+  EXPECT_FALSE(walk.desktop->hasEnded());
   walk.expectBox("Möchten Sie die Änderungen speichern?", QMessageBox::Cancel);
   QMetaObject::invokeMethod(&walk.desktop->mainForm(), &QWidget::close, Qt::QueuedConnection);
   QTest::qWait(100);
