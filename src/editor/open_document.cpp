@@ -23,7 +23,7 @@ bool isText(std::string_view bytes) {
   return isWide || bytes.find('\0') == std::string_view::npos;
 }
 
-std::string withSuffix(std::string name) { return name.ends_with(".rtf") ? name : name + ".rtf"; }
+std::string withSuffix(const std::string& name) { return name.ends_with(".rtf") ? name : name + ".rtf"; }
 
 bool mayReplace(const std::string& path, base::Platform& platform) {
   if (!base::FileExists(path)) return true;
