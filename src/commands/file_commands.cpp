@@ -130,6 +130,7 @@ void SaveNow(const MainParts& parts) {
     editor::markSaved(parts.document, parts.window.rtfText);
     showCurrentFile(parts, path);
     parts.undo.clear();
+    offerUndo(parts);
     // The document is saved, whatever becomes of this.
     errors::reporting(parts.reporter, "MAIN-SaveNow",
                       [&] { parts.platform.saveUserSettings({{.key = "LastFile", .value = path}}); });

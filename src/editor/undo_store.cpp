@@ -204,7 +204,8 @@ void UndoStore::add(TextChange change, bool joins) {
   if (!joins) done_.emplace_back();
   Step& step = done_.back();
   const std::size_t lastBefore = step.changes.empty() ? 0 : bytesOf(step.changes.back());
-  const bool absorbed = !step.changes.empty() && absorbs(step.changes.back(), change);
+  // A command of many changes keeps them apart: walking what has come together at each of them would take for ever.
+  const bool absorbed = groups_ == 0 && !step.changes.empty() && absorbs(step.changes.back(), change);
   if (!absorbed) step.changes.push_back(std::move(change));
   const std::size_t more = bytesOf(step.changes.back()) - (absorbed ? lastBefore : 0);
   step.bytes += more;

@@ -14,6 +14,9 @@ namespace {
 
 // Never returns into the program: neither its windows nor its files are the copy's to close.
 [[noreturn]] void workInTheCopy(const std::function<void()>& work) {
+  // Should it meet a lock that another thread held at that moment, it shall not wait for ever.
+  constexpr unsigned kMostSeconds = 30;
+  ::alarm(kMostSeconds);
   ::signal(SIGTERM, SIG_DFL);
   ::signal(SIGINT, SIG_DFL);
   int status = EXIT_SUCCESS;

@@ -1,6 +1,8 @@
 // The text edit of documents: the contract, and what only a screen can do to a text.
 #include <QApplication>
 #include <QClipboard>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -452,6 +454,25 @@ class Walker {
 
   std::mt19937 random_;
 };
+
+// The toolkit tells of a drop behind its edit block; the mouse moves the caret before that.
+TEST(RichTextEdit, takesADropOfSeveralLinesFromItself) {
+  UndoScreen screen;
+  screen.text.setPlainText("eins\r\nzwei\r\ndrei");
+  screen.text.select({0, 10});
+  const std::unique_ptr<QMimeData> dragged(new QMimeData);
+  dragged->setData("text/rtf", "{\\rtf1 eins\\par zwei}");
+  QWidget& paper = *screen.edit.viewport();
+  const QPoint place = paper.rect().bottomRight() - QPoint(3, 3);
+  QDragEnterEvent arrival(place, Qt::CopyAction, dragged.get(), Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&paper, &arrival);
+  QDropEvent drop(place, Qt::CopyAction, dragged.get(), Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&paper, &drop);
+  EXPECT_EQ(screen.text.plainText(), "eins\r\nzwei\r\ndreieins\r\nzwei");
+  EXPECT_EQ(screen.text.countAll(), (base::TextCount{.characters = 20, .lineEnds = 3}));
+  screen.undo.undo();
+  EXPECT_EQ(screen.text.plainText(), "eins\r\nzwei\r\ndrei");
+}
 
 TEST(RichTextEdit, countsStayRightUnderAnyEdits) {
   for (const unsigned seed : {1U, 2U, 3U}) {

@@ -28,6 +28,14 @@ QLineEdit* lineOf(QWidget* widget) {
   return qobject_cast<QLineEdit*>(widget);
 }
 
+// A key named twice would be no key at all.
+QList<QKeySequence> with(QKeySequence::StandardKey standard, QList<QKeySequence> keys) {
+  for (const QKeySequence& key : QKeySequence::keyBindings(standard)) {
+    if (!keys.contains(key)) keys.append(key);
+  }
+  return keys;
+}
+
 }  // namespace
 
 EditCommands::EditCommands(QMainWindow& window, const Ui::MainWindowForm& drawn)
@@ -41,9 +49,9 @@ EditCommands::EditCommands(QMainWindow& window, const Ui::MainWindowForm& drawn)
            {drawn.fixPastePlain, drawn.mnuPastePlain, [](QLineEdit& line) { line.paste(); }, kGoesOn, kDocumentAlone},
            {drawn.fixDelete, drawn.mnuDelete, [](QLineEdit& line) { line.del(); }},
            {drawn.fixMarkAll, drawn.mnuMarkAll, [](QLineEdit& line) { line.selectAll(); }, kBeginsPart}}) {
-  // The same on every desktop, whichever of these its own are.
-  drawn.fixUndo->setShortcuts({Qt::CTRL | Qt::Key_Z, Qt::ALT | Qt::Key_Backspace});
-  drawn.fixRedo->setShortcuts({Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z});
+  // The same on every desktop, and its own.
+  drawn.fixUndo->setShortcuts(with(QKeySequence::Undo, {Qt::CTRL | Qt::Key_Z, Qt::ALT | Qt::Key_Backspace}));
+  drawn.fixRedo->setShortcuts(with(QKeySequence::Redo, {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z}));
   drawn.fixCut->setShortcuts(QKeySequence::Cut);
   drawn.fixCopy->setShortcuts(QKeySequence::Copy);
   drawn.fixPaste->setShortcuts(QKeySequence::Paste);

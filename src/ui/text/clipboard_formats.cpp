@@ -65,8 +65,13 @@ QString between(const QTextBlock& block, const QTextBlock& next) {
   return cell != nextCell && cell.row() == nextCell.row() ? QStringLiteral("\t") : QStringLiteral("\n");
 }
 
+// What a page names is not fetched: it might be any file of this machine.
+struct Page : QTextDocument {
+  QVariant loadResource(int /*type*/, const QUrl& /*name*/) override { return {}; }
+};
+
 QString textOfHtml(const QString& source) {
-  QTextDocument page;
+  Page page;
   page.setUndoRedoEnabled(false);
   page.setHtml(source);
   QString text;

@@ -149,6 +149,16 @@ void RichTextEdit::setZoom(int percent) {
   emit zoomed(zoom());
 }
 
+// The toolkit puts the whole drop into one edit block and tells of the change behind it: until then nothing that was
+// counted holds, and nobody may be told where the caret is.
+void RichTextEdit::dropEvent(QDropEvent* event) {
+  const QScopedValueRollback<bool> brings(bringsFormats_, true);
+  changing_ = true;
+  QTextEdit::dropEvent(event);
+  changing_ = false;
+  noteCaret();
+}
+
 bool RichTextEdit::canInsertFromMimeData(const QMimeData* source) const { return bringsText(*source); }
 
 void RichTextEdit::insertFromMimeData(const QMimeData* source) {

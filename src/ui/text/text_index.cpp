@@ -50,7 +50,12 @@ BlockSummary summaryOf(const QString& text) {
   return {countText(text), hasUnbrokenRun(units, static_cast<std::size_t>(text.size()), kLongRun)};
 }
 
-const TextCount& countOf(const QTextBlock& block) { return static_cast<const BlockCount*>(block.userData())->get(); }
+// Nothing for a paragraph of which the toolkit has not told yet.
+const TextCount& countOf(const QTextBlock& block) {
+  static const TextCount none;
+  const auto* const count = static_cast<const BlockCount*>(block.userData());
+  return count == nullptr ? none : count->get();
+}
 
 // With the line end behind it, which only the last paragraph lacks.
 TextCount countWithEnd(const QTextBlock& block) { return countOf(block) + TextCount{.lineEnds = 1}; }
