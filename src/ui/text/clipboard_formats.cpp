@@ -31,7 +31,7 @@ bool isRtf(const QString& type) {
 
 QByteArray rtfOf(const QMimeData& data) {
   for (const char* const name : kRtf) {
-    if (const QByteArray bytes = data.data(QString::fromLatin1(name)); !bytes.isEmpty()) return bytes;
+    if (QByteArray bytes = data.data(QString::fromLatin1(name)); !bytes.isEmpty()) return bytes;
   }
   return {};
 }
@@ -108,7 +108,7 @@ std::optional<base::Document> formattedText(const QMimeData& data) { return read
 
 QString plainText(const QMimeData& data) {
   if (data.hasHtml()) {
-    if (const QString text = textOfHtml(data.html()); !text.isEmpty()) return text;
+    if (QString text = textOfHtml(data.html()); !text.isEmpty()) return text;
   }
   if (data.hasText()) return enteringText(data.text());
   const auto formatted = formattedText(data);
