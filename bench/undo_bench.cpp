@@ -17,7 +17,7 @@ using Clock = bench::ProcessorClock;
 constexpr int kRounds = 51;
 
 // Lines of 60 bytes in six runs each, or one line of the same runs.
-base::Document sample(int characters, bool inLines) {
+base::Document sample(int characters, bool inLines, std::uint32_t formats = 6) {
   base::Document result{.formats = {}, .paragraphs = {base::Paragraph{}}};
   for (const double points : {8.0, 12.0, 24.5}) {
     for (const bool bold : {false, true}) result.formats.push_back({.points = points, .bold = bold});
@@ -26,7 +26,7 @@ base::Document sample(int characters, bool inLines) {
     if (inLines && i > 0 && i % 6 == 0) result.paragraphs.emplace_back();
     base::Paragraph& paragraph = result.paragraphs.back();
     paragraph.text += "Werbetext ";
-    paragraph.runs.push_back({10, static_cast<std::uint32_t>(i) * 7 % 6});
+    paragraph.runs.push_back({10, static_cast<std::uint32_t>(i) * 7 % formats});
   }
   return result;
 }
@@ -119,7 +119,9 @@ int main(int argc, char** argv) {
   constexpr double kMicroseconds = 1000;
   shares.row("65,000 in lines of 60", {telling(sample(65'000, true)) * kMicroseconds});
   shares.row("1,000,000 in lines of 60", {telling(sample(1'000'000, true)) * kMicroseconds});
+  shares.row("65,000 in one line and format", {telling(sample(65'000, false, 1)) * kMicroseconds});
   shares.row("65,000 in one line", {telling(sample(65'000, false)) * kMicroseconds});
+  shares.row("1,000,000 in one line and format", {telling(sample(1'000'000, false, 1)) * kMicroseconds});
   shares.row("1,000,000 in one line", {telling(sample(1'000'000, false)) * kMicroseconds});
   return 0;
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 #include "base/text.h"
 
@@ -43,14 +44,30 @@ Paragraph plainParagraph(std::string_view text) {
   return result;
 }
 
+// Few enough to be counted in a byte, which lets the compiler count many at once; a multiple of those.
+constexpr std::size_t kCountedAtOnce = 224;
+
+// Of at most that many bytes.
+TextCount countPiece(std::string_view piece) {
+  std::uint8_t characters = 0;
+  std::uint8_t blanks = 0;
+  std::uint8_t lineEnds = 0;
+  for (const char c : piece) {
+    characters = static_cast<std::uint8_t>(characters + ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U ? 1 : 0));
+    blanks = static_cast<std::uint8_t>(blanks + (c == ' ' ? 1 : 0));
+    lineEnds = static_cast<std::uint8_t>(lineEnds + (c == '\n' ? 1 : 0));
+  }
+  return {characters, blanks, lineEnds};
+}
+
 }  // namespace
 
 TextCount countText(std::string_view text) {
   TextCount result;
-  for (const char c : text) {
-    result.characters += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U ? 1 : 0;
-    result.blanks += c == ' ' ? 1 : 0;
-    result.lineEnds += c == '\n' ? 1 : 0;
+  for (std::string_view rest = text; !rest.empty();) {
+    const std::string_view piece = rest.substr(0, kCountedAtOnce);
+    result = result + countPiece(piece);
+    rest.remove_prefix(piece.size());
   }
   for (std::size_t i = text.find(kLineSeparator); i != std::string_view::npos; i = text.find(kLineSeparator, i + 1)) {
     ++result.lineEnds;

@@ -10,6 +10,9 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
+// Texts are compared in pieces of this size first, which costs a fraction.
+constexpr std::size_t kStride = 256;
+
 bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
 struct Decoded {
@@ -56,16 +59,21 @@ std::string_view firstCodePoints(std::string_view text, std::size_t count) {
 }
 
 std::size_t commonHead(std::string_view a, std::string_view b) {
+  const std::size_t most = std::min(a.size(), b.size());
   std::size_t size = 0;
-  while (size < a.size() && size < b.size() && a[size] == b[size]) ++size;
+  while (size + kStride <= most && a.substr(size, kStride) == b.substr(size, kStride)) size += kStride;
+  while (size < most && a[size] == b[size]) ++size;
   const auto inCharacter = [&](std::string_view text) { return size < text.size() && isContinuation(text[size]); };
   while (size > 0 && (inCharacter(a) || inCharacter(b))) --size;
   return size;
 }
 
 std::size_t commonTail(std::string_view a, std::string_view b) {
+  const std::size_t most = std::min(a.size(), b.size());
+  const auto behind = [](std::string_view text, std::size_t size) { return text.substr(text.size() - size, kStride); };
   std::size_t size = 0;
-  while (size < a.size() && size < b.size() && a[a.size() - 1 - size] == b[b.size() - 1 - size]) ++size;
+  while (size + kStride <= most && behind(a, size + kStride) == behind(b, size + kStride)) size += kStride;
+  while (size < most && a[a.size() - 1 - size] == b[b.size() - 1 - size]) ++size;
   while (size > 0 && isContinuation(a[a.size() - size])) --size;
   return size;
 }

@@ -127,6 +127,8 @@ std::size_t unitsBefore(std::span<const Paragraph> paragraphs, std::int64_t posi
   std::size_t units = 0;
   for (const Paragraph& paragraph : paragraphs) {
     const std::int64_t inside = codePoints(countText(paragraph.text));
+    const bool isAscii = static_cast<std::size_t>(inside) == paragraph.text.size();
+    if (isAscii && position <= inside) return units + static_cast<std::size_t>(std::max<std::int64_t>(position, 0));
     if (position <= inside) return units + bytesOf(paragraph.text, position);
     position -= inside + 2;
     units += paragraph.text.size() + 1;
