@@ -39,7 +39,7 @@ class ParagraphReader {
   // A format as the toolkit numbers it, which it does anew once its document was cleared.
   struct Known {
     QTextFormat format;
-    std::uint32_t number;
+    std::uint32_t number = 0;
   };
 
   template <typename Part>
