@@ -7,10 +7,12 @@
 #include "base/wiring.h"
 #include "calc/calc.h"
 #include "calc/picker.h"
+#include "editor/container.h"
 #include "editor/open_document.h"
 #include "editor/undo_store.h"
 #include "errors/reporting.h"
 #include "frame/main_window.h"
+#include "frame/wait_window.h"
 #include "settings/settings.h"
 
 namespace commands {
@@ -23,7 +25,10 @@ struct MainParts {
   frame::CalcResults& results;
   editor::OpenDocument& document;
   editor::UndoStore& undo;
+  frame::WaitWindow& wait;
   calc::PickerWindow& picker;
+  editor::ContainerWindow& container;
+  editor::UndoStore& containerUndo;
   base::Platform& platform;
   errors::Reporter& reporter;
 };

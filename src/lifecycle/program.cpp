@@ -20,7 +20,10 @@ commands::MainParts partsOf(Program& program) {
           .results = program.results,
           .document = program.document,
           .undo = program.undo,
+          .wait = program.windows.wait,
           .picker = program.windows.picker,
+          .container = program.windows.container,
+          .containerUndo = program.containerUndo,
           .platform = program.platform,
           .reporter = program.reporter};
 }

@@ -31,6 +31,7 @@ struct Program {
   std::string fileToOpen;  // once the program stands, as the command line asks
   Windows windows = {};
   editor::UndoStore undo{windows.main.rtfText, settings.user.undoDepth};
+  editor::UndoStore containerUndo{windows.container.rtfTextC, settings.user.undoDepth};
   base::Wiring wiring = {};
 
   Program(const Program&) = delete;

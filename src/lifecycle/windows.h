@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "calc/picker.h"
+#include "editor/container.h"
 #include "frame/main_window.h"
+#include "frame/wait_window.h"
 #include "lifecycle/loading_window.h"
 
 namespace lifecycle {
@@ -13,7 +15,9 @@ namespace lifecycle {
 #define TESSIK_WINDOWS(WINDOW)          \
   WINDOW(frame::MainWindow, main)       \
   WINDOW(LoadingWindow, loading)        \
-  WINDOW(calc::PickerWindow, picker)
+  WINDOW(frame::WaitWindow, wait)       \
+  WINDOW(calc::PickerWindow, picker)    \
+  WINDOW(editor::ContainerWindow, container)
 // clang-format on
 
 #define TESSIK_DECLARE_WINDOW(Kind, name) Kind name;

@@ -15,6 +15,13 @@ namespace {
 
 constexpr int kPatience = 5000;  // milliseconds until what never comes is missed
 
+constexpr std::string_view kGeneral =
+    "[Einstellungen]\r\nMwst=16\r\nMaßeinheit=mm\r\nIndex1=2\r\nIndex2=2\r\nTVorn=0\r\nLZ=1\r\nSnd=x.wav\r\n";
+constexpr std::string_view kLists =
+    "[Einstellungen]\r\nIndexp1=1\r\nIndexp2=0\r\n[Rabatte]\r\n10 %\r\n5.00 EUR\r\n[RabatteTip]\r\nEil\r\nWeg\r\n"
+    "[Rabatte2]\r\n3 %\r\n2 %\r\n[RabatteTip2]\r\nStamm\r\nBar\r\n";
+constexpr std::string_view kPrices = "[Versalien]\r\n0=20\r\n1=50\r\n[Preise]\r\n0=1,00\r\n1=2,00\r\n";
+
 QWidget& focused() {
   QWidget* const widget = QApplication::focusWidget();
   return widget != nullptr ? *widget : *QApplication::activeWindow();
@@ -28,6 +35,23 @@ Premises::Premises() {
 }
 
 void Premises::write(const std::string& name, std::string_view bytes) const { directory.write("daten/" + name, bytes); }
+
+Shop::Shop() {
+  write("Ostrowerk.ini", kGeneral);
+  write("Tessik.ini", kLists);
+  write("Tessik.pdb", kPrices);
+  std::filesystem::create_directories(directory.path("config/Tessik"));
+  directory.write("config/Tessik/Tessik.conf", "[Prog]\nVersion=1.4\nWinState=0\n");
+}
+
+void chooseFile(QDialog& dialog, const QString& file) {
+  auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
+  ASSERT_NE(name, nullptr) << dialog.windowTitle().toStdString();
+  name->setFocus();
+  name->selectAll();
+  name->insert(file);  // typed, the dialog would propose something else
+  QTest::keyClick(name, Qt::Key_Return);
+}
 
 Walk::Walk(const Premises& premises, const std::function<void(Walk&)>& expectations) {
   QObject::connect(&person_, &QTimer::timeout, [this] { answerQuestions(); });

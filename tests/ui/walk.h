@@ -33,6 +33,14 @@ struct Premises {
   void write(const std::string& name, std::string_view bytes) const;
 };
 
+/// A shop that has been set up: prices, surcharges and discounts, and a version that has started before.
+struct Shop : Premises {
+  Shop();
+};
+
+/// Enters a name into a file dialog of the toolkit, which starts in the working directory, and agrees.
+void chooseFile(QDialog& dialog, const QString& file);
+
 class Walk {
  public:
   /// Starts the program up to its main window. `questions` that come before it are to be expected by then.

@@ -2,6 +2,7 @@
 #include "ui/forms/form_table.h"
 
 #include <QGuiApplication>
+#include <QMainWindow>
 #include <QScreen>
 #include <algorithm>
 #include <array>
@@ -9,8 +10,10 @@
 #include "base/failure.h"
 #include "ui/forms/form_dialog.h"
 #include "ui/forms/main_form.h"
+#include "ui_container.h"
 #include "ui_loading.h"
 #include "ui_picker.h"
+#include "ui_wait.h"
 
 namespace ui {
 namespace {
@@ -40,10 +43,27 @@ QWidget* loadingScreen(QWidget* parent) {
   return screen;
 }
 
+// Beside the main window and above it; what runs behind it is not to be closed.
+QWidget* waitWindow(QWidget* parent) {
+  auto* const window = new FormDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+  Ui::WaitForm().setupUi(window);
+  window->setFixedSize(inLetters(*window, 60, 6).expandedTo(window->sizeHint()));
+  return window;
+}
+
+QWidget* container(QWidget* parent) {
+  auto* const window = new QMainWindow(parent);
+  Ui::ContainerForm().setupUi(window);
+  window->resize(inLetters(*window, 140, 40));
+  return window;
+}
+
 constexpr std::array kForms = {
     Form{"frmMain", mainWindow},
     Form{"frmLoad", loadingScreen, Appears::whenItTakesLonger},
+    Form{"frmWait", waitWindow, Appears::whenItTakesLonger},
     Form{"frmAuswahlAR", dialog<Ui::PickerForm, 64, 18>},
+    Form{"frmContainer", container},
 };
 
 }  // namespace
