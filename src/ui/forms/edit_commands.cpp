@@ -1,14 +1,16 @@
-// The editing commands of the main window.
+// The editing commands of the windows that have a document.
 #include "ui/forms/edit_commands.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <array>
 
-#include "ui_main_window.h"
+#include "ui/text/rich_text_edit.h"
 
 namespace ui {
 namespace {
@@ -16,6 +18,24 @@ namespace {
 constexpr bool kBeginsPart = true;
 constexpr bool kGoesOn = false;
 constexpr bool kDocumentAlone = false;
+
+struct Command {
+  QAction* EditActions::*action;
+  void (*ofLine)(QLineEdit& line);
+  bool beginsPart = false;  // of a context menu
+  bool isForLines = true;   // offered in their context menus
+};
+
+constexpr std::array kCommands = {
+    Command{&EditActions::undo, [](QLineEdit& line) { line.undo(); }},
+    Command{&EditActions::redo, [](QLineEdit& line) { line.redo(); }},
+    Command{&EditActions::cut, [](QLineEdit& line) { line.cut(); }, kBeginsPart},
+    Command{&EditActions::copy, [](QLineEdit& line) { line.copy(); }},
+    Command{&EditActions::paste, [](QLineEdit& line) { line.paste(); }},
+    Command{&EditActions::pastePlain, [](QLineEdit& line) { line.paste(); }, kGoesOn, kDocumentAlone},
+    Command{&EditActions::clear, [](QLineEdit& line) { line.del(); }},
+    Command{&EditActions::markAll, [](QLineEdit& line) { line.selectAll(); }, kBeginsPart},
+};
 
 QAction* separator(QObject& owner) {
   auto* const line = new QAction(&owner);
@@ -36,70 +56,63 @@ QList<QKeySequence> with(QKeySequence::StandardKey standard, QList<QKeySequence>
   return keys;
 }
 
+// The same on every desktop, and its own.
+void setKeys(const EditActions& shown) {
+  shown.undo->setShortcuts(with(QKeySequence::Undo, {Qt::CTRL | Qt::Key_Z, Qt::ALT | Qt::Key_Backspace}));
+  shown.redo->setShortcuts(with(QKeySequence::Redo, {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z}));
+  shown.cut->setShortcuts(QKeySequence::Cut);
+  shown.copy->setShortcuts(QKeySequence::Copy);
+  shown.paste->setShortcuts(QKeySequence::Paste);
+  shown.pastePlain->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_V);
+  shown.markAll->setShortcuts(QKeySequence::SelectAll);
+  // Pressed in a list, the key shall not delete what is marked in the document.
+  shown.clear->setShortcut(Qt::Key_Delete);
+  shown.clear->setShortcutContext(Qt::WidgetShortcut);
+}
+
+void offerInContextMenu(QWidget& text, const EditActions& shown) {
+  const bool isLine = qobject_cast<QLineEdit*>(&text) != nullptr;
+  for (const Command& command : kCommands) {
+    if (isLine && !command.isForLines) continue;
+    if (command.beginsPart) text.addAction(separator(text));
+    text.addAction(shown.*command.action);
+  }
+  text.setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
 }  // namespace
 
-EditCommands::EditCommands(QMainWindow& window, const Ui::MainWindowForm& drawn)
-    : QObject(&window),
-      commands_(
-          {{drawn.fixUndo, drawn.mnuUndo, [](QLineEdit& line) { line.undo(); }},
-           {drawn.fixRedo, drawn.mnuRedo, [](QLineEdit& line) { line.redo(); }},
-           {drawn.fixCut, drawn.mnuCut, [](QLineEdit& line) { line.cut(); }, kBeginsPart},
-           {drawn.fixCopy, drawn.mnuCopy, [](QLineEdit& line) { line.copy(); }},
-           {drawn.fixPaste, drawn.mnuPaste, [](QLineEdit& line) { line.paste(); }},
-           {drawn.fixPastePlain, drawn.mnuPastePlain, [](QLineEdit& line) { line.paste(); }, kGoesOn, kDocumentAlone},
-           {drawn.fixDelete, drawn.mnuDelete, [](QLineEdit& line) { line.del(); }},
-           {drawn.fixMarkAll, drawn.mnuMarkAll, [](QLineEdit& line) { line.selectAll(); }, kBeginsPart}}) {
-  // The same on every desktop, and its own.
-  drawn.fixUndo->setShortcuts(with(QKeySequence::Undo, {Qt::CTRL | Qt::Key_Z, Qt::ALT | Qt::Key_Backspace}));
-  drawn.fixRedo->setShortcuts(with(QKeySequence::Redo, {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z}));
-  drawn.fixCut->setShortcuts(QKeySequence::Cut);
-  drawn.fixCopy->setShortcuts(QKeySequence::Copy);
-  drawn.fixPaste->setShortcuts(QKeySequence::Paste);
-  drawn.fixPastePlain->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_V);
-  drawn.fixMarkAll->setShortcuts(QKeySequence::SelectAll);
-  // Pressed in a list, the key shall not delete what is marked in the document.
-  drawn.fixDelete->setShortcut(Qt::Key_Delete);
-  drawn.fixDelete->setShortcutContext(Qt::WidgetShortcut);
-  for (const Command& command : commands_) {
-    connect(command.shown, &QAction::triggered, this, [this, command] { run(command); });
-    connect(command.ofDocument, &QAction::changed, this, &EditCommands::enable);
+void offerEditing(RichTextEdit& document, const EditActions& shown) {
+  document.leaveKeysToCommands();
+  setKeys(shown);
+  offerInContextMenu(document, shown);
+}
+
+EditCommands::EditCommands(QMainWindow& window, const EditActions& shown, const EditActions& ofDocument)
+    : QObject(&window), window_(window), shown_(shown), ofDocument_(ofDocument) {
+  for (const Command& command : kCommands) {
+    QAction* const inDocument = ofDocument.*command.action;
+    connect(shown.*command.action, &QAction::triggered, this,
+            [this, &command, inDocument] { line_ ? command.ofLine(*line_) : inDocument->trigger(); });
+    connect(inDocument, &QAction::changed, this, &EditCommands::enable);
   }
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { noteFocus(now); });
-  offerInContextMenus(window, *drawn.rtfText);
-}
-
-void EditCommands::offerInContextMenus(QMainWindow& window, QTextEdit& document) {
-  QList<QWidget*> texts{&document};
-  for (QLineEdit* const line : window.findChildren<QLineEdit*>()) texts.append(line);
-  for (QWidget* const text : texts) {
-    for (const Command& command : commands_) {
-      if (text != &document && !command.isForLines) continue;
-      if (command.beginsPart) text->addAction(separator(*text));
-      text->addAction(command.shown);
-    }
-    text->setContextMenuPolicy(Qt::ActionsContextMenu);
-  }
-}
-
-void EditCommands::run(const Command& command) const {
-  if (line_) {
-    command.ofLine(*line_);
-  } else {
-    command.ofDocument->trigger();
-  }
+  for (QLineEdit* const line : window.findChildren<QLineEdit*>()) offerInContextMenu(*line, shown);
 }
 
 // A menu and another window borrow the focus.
 void EditCommands::noteFocus(QWidget* focused) {
-  const bool isBorrowed =
-      focused == nullptr || qobject_cast<QMenuBar*>(focused) != nullptr || qobject_cast<QMenu*>(focused) != nullptr;
+  const bool isBorrowed = focused == nullptr || focused->window() != &window_ ||
+                          qobject_cast<QMenuBar*>(focused) != nullptr || qobject_cast<QMenu*>(focused) != nullptr;
   if (isBorrowed) return;
   line_ = lineOf(focused);
   enable();
 }
 
 void EditCommands::enable() const {
-  for (const Command& command : commands_) command.shown->setEnabled(line_ || command.ofDocument->isEnabled());
+  for (const Command& command : kCommands) {
+    (shown_.*command.action)->setEnabled(line_ || (ofDocument_.*command.action)->isEnabled());
+  }
 }
 
 }  // namespace ui

@@ -10,6 +10,7 @@
 
 #include "ui/appearance.h"
 #include "ui/forms/edit_commands.h"
+#include "ui/forms/letter_size.h"
 #include "ui/forms/view_commands.h"
 #include "ui/user_settings.h"
 #include "ui_main_window.h"
@@ -19,6 +20,9 @@ namespace {
 
 constexpr const char* kGeometryKey = "Hauptfenster";
 constexpr const char* kSplitterKey = "Teiler";
+constexpr const char* kZoomKey = "Ansicht";
+// A lettering is written in the 8 points of an ordinary document and looked at from some way off.
+constexpr int kFirstZoom = 300;
 constexpr double kShareOfSmallScreen = 0.95;  // the rest is for the window's frame
 
 std::unique_ptr<Ui::MainWindowForm> drawnOn(QMainWindow& window) {
@@ -40,15 +44,6 @@ void moveFormatIntoToolBar(const Ui::MainWindowForm& drawn) {
   bar.addActions({drawn.mnuLinks, drawn.mnuZentriert, drawn.mnuRechts});
 }
 
-// The lettering stands on white paper, whatever the palette.
-void makePaperWhite(QWidget& paper) {
-  QPalette palette = paper.palette();
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::Text, Qt::black);
-  palette.setColor(QPalette::PlaceholderText, Qt::darkGray);
-  paper.setPalette(palette);
-}
-
 // A word on a colour of its own, which can be read in either palette and keeps its place while it is hidden.
 void makeSign(QLabel& word) {
   word.setStyleSheet(QStringLiteral("background: #ffb300; color: black; border-radius: 3px; padding: 0 4px;"));
@@ -65,9 +60,38 @@ void furnishPanel(const Ui::MainWindowForm& drawn) {
   }
 }
 
+void furnishEditing(QMainWindow& window, const Ui::MainWindowForm& drawn) {
+  const EditActions shown{.undo = drawn.fixUndo,
+                          .redo = drawn.fixRedo,
+                          .cut = drawn.fixCut,
+                          .copy = drawn.fixCopy,
+                          .paste = drawn.fixPaste,
+                          .pastePlain = drawn.fixPastePlain,
+                          .clear = drawn.fixDelete,
+                          .markAll = drawn.fixMarkAll};
+  const EditActions ofDocument{.undo = drawn.mnuUndo,
+                               .redo = drawn.mnuRedo,
+                               .cut = drawn.mnuCut,
+                               .copy = drawn.mnuCopy,
+                               .paste = drawn.mnuPaste,
+                               .pastePlain = drawn.mnuPastePlain,
+                               .clear = drawn.mnuDelete,
+                               .markAll = drawn.mnuMarkAll};
+  offerEditing(*drawn.rtfText, shown);
+  new EditCommands(window, shown, ofDocument);  // belongs to the window
+}
+
+ViewCommands* viewOf(QMainWindow& window, const Ui::MainWindowForm& drawn) {
+  const ViewActions actions{.larger = drawn.fixGrößer,
+                            .smaller = drawn.fixKleiner,
+                            .first = drawn.fixStandardgröße,
+                            .shown = drawn.fixAnsichtsgröße};
+  return new ViewCommands(window, *drawn.rtfText, actions, {.firstZoom = kFirstZoom, .storeKey = kZoomKey});
+}
+
 }  // namespace
 
-MainForm::MainForm() : drawn_(drawnOn(*this)), view_(new ViewCommands(*this, *drawn_)) {
+MainForm::MainForm() : drawn_(drawnOn(*this)), view_(viewOf(*this, *drawn_)) {
   // Labels of our own in the status bar instead of showMessage(), which every status tip would overwrite.
   constexpr int kTakesTheRest = 1;
   drawn_->fixStatus->addWidget(drawn_->lblZeile, kTakesTheRest);
@@ -78,10 +102,8 @@ MainForm::MainForm() : drawn_(drawnOn(*this)), view_(new ViewCommands(*this, *dr
   drawn_->fixTeiler->setStretchFactor(1, 0);
   moveFormatIntoToolBar(*drawn_);
   fitToScreen();
-  makePaperWhite(*drawn_->rtfText);
   furnishPanel(*drawn_);
-  drawn_->rtfText->leaveKeysToCommands();
-  new EditCommands(*this, *drawn_);            // belongs to this window
+  furnishEditing(*this, *drawn_);
   drawn_->cboFontSize->setCompleter(nullptr);  // which would hold 1 for 10
   for (const ChoosingComboBox* const box :
        {static_cast<ChoosingComboBox*>(drawn_->cboFontSelect), drawn_->cboFontSize}) {
@@ -99,7 +121,7 @@ MainForm::~MainForm() = default;
 void MainForm::fitToScreen() {
   constexpr int kColumns = 200;  // average letters
   constexpr int kLines = 53;
-  const QSize wanted(kColumns * fontMetrics().averageCharWidth(), kLines * fontMetrics().lineSpacing());
+  const QSize wanted = inLetters(*this, kColumns, kLines);
   const QSize available = QGuiApplication::primaryScreen()->availableSize();
   resize(wanted.boundedTo(available * kShareOfSmallScreen));
 }

@@ -36,10 +36,20 @@ int mapped(int position, const Decomposed& piece) {
   return std::max(position, piece.position + piece.length) + after;
 }
 
+// A document stands on white paper, whatever the palette.
+void makeWhite(QWidget& paper) {
+  QPalette palette = paper.palette();
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::PlaceholderText, Qt::darkGray);
+  paper.setPalette(palette);
+}
+
 }  // namespace
 
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), index_(*document()) {
   setAcceptRichText(false);
+  makeWhite(*this);
   document()->setUndoRedoEnabled(false);
   const QTextCharFormat fresh = toQt(base::CharFormat{});
   document()->setDefaultFont(fresh.font());
