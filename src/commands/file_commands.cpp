@@ -1,8 +1,6 @@
 // The commands on document files.
 #include "commands/file_commands.h"
 
-#include <filesystem>
-
 #include "base/text.h"
 #include "base/version.h"
 #include "editor/open_document.h"
@@ -21,12 +19,13 @@ bool isDirty(const MainParts& parts) {
   return priced >= 1 && !editor::isSaved(parts.document, parts.window.rtfText);
 }
 
-// Before the document gives way to another. Cancelling ends the command, as does a save that comes to nothing.
+editor::DocumentParts documentOf(const MainParts& parts) {
+  return {.document = parts.document, .text = parts.window.rtfText, .undo = parts.undo, .platform = parts.platform};
+}
+
+// Before the document gives way to another.
 void protectUnsaved(const MainParts& parts) {
-  if (!isDirty(parts)) return;
-  const base::MessageAnswer answer = editor::askToSave(parts.platform);
-  if (answer == base::MessageAnswer::cancel) throw base::Failure(base::ErrorNumber::cancelled);
-  if (answer == base::MessageAnswer::yes) SaveNow(parts);
+  if (isDirty(parts)) editor::settleChanges(parts.platform, [&parts] { SaveNow(parts); });
 }
 
 void resetInputs(frame::MainWindow& window) {
@@ -46,14 +45,9 @@ void warnOfLargeText(const MainParts& parts) {
        .icon = base::MessageIcon::exclamation});
 }
 
-// Everything is read before anything of the present document changes.
 void load(const MainParts& parts, const std::string& path) {
-  const base::Document read = editor::readDocument(path, parts.platform);
-  parts.window.rtfText.setDocument(read);
+  editor::loadDocument(documentOf(parts), path);
   showCurrentFile(parts, path);
-  editor::markSaved(parts.document, parts.window.rtfText);
-  parts.undo.clear();
-  parts.platform.setHourglass(base::Hourglass::off);
 }
 
 void price(const MainParts& parts) {
@@ -68,8 +62,7 @@ void priceLoaded(const MainParts& parts) {
 
 void LoadNow(const MainParts& parts) {
   protectUnsaved(parts);
-  load(parts,
-       parts.platform.askOpenFile({.title = "Öffnen", .filter = std::string(editor::kOpenFilter), .suggestion = {}}));
+  load(parts, editor::askForDocument(parts.platform));
 }
 
 void NewDoc(const MainParts& parts) {
@@ -125,11 +118,9 @@ void openRecent(const MainParts& parts) {
 
 void SaveNow(const MainParts& parts) {
   base::tagged("MAIN-SaveNow", [&] {
-    const std::string suggestion = std::filesystem::path(parts.document.file).filename().string();
-    const std::string path = editor::saveByDialog(parts.window.rtfText, suggestion, parts.platform);
-    editor::markSaved(parts.document, parts.window.rtfText);
+    editor::saveByDialog(documentOf(parts));
+    const std::string path = parts.document.file;
     showCurrentFile(parts, path);
-    parts.undo.clear();
     offerUndo(parts);
     // The document is saved, whatever becomes of this.
     errors::reporting(parts.reporter, "MAIN-SaveNow",

@@ -3,24 +3,63 @@
 // It lives as long as the program. Neither is it saved by itself nor restored.
 #pragma once
 
+#include <string>
+
 #include "base/controls.h"
 #include "base/document.h"
+#include "base/platform.h"
 #include "base/rich_text_box.h"
+#include "base/wiring.h"
+#include "editor/open_document.h"
+#include "editor/undo_store.h"
+#include "errors/reporting.h"
 
 namespace editor {
 
 // clang-format off
 #define TESSIK_CONTAINER_CONTROLS(CONTROL) \
-  CONTROL(base::RichTextBox, rtfTextC)
+  CONTROL(base::RichTextBox, rtfTextC)     \
+  CONTROL(base::MenuEntry, mnuLoad)        \
+  CONTROL(base::MenuEntry, mnuSave)        \
+  CONTROL(base::MenuEntry, mnuExit)        \
+  CONTROL(base::MenuEntry, mnuUndo)        \
+  CONTROL(base::MenuEntry, mnuRedo)        \
+  CONTROL(base::MenuEntry, mnuCut)         \
+  CONTROL(base::MenuEntry, mnuCopy)        \
+  CONTROL(base::MenuEntry, mnuPaste)       \
+  CONTROL(base::MenuEntry, mnuPastePlain)  \
+  CONTROL(base::MenuEntry, mnuClear)       \
+  CONTROL(base::MenuEntry, mnuMarkAll)     \
+  CONTROL(base::MenuEntry, mnuSearch)      \
+  CONTROL(base::MenuEntry, mnuFindNext)
 // clang-format on
 
 struct ContainerWindow : base::Window {
-  ContainerWindow() : Window("frmContainer") {}
+  ContainerWindow();
 
   TESSIK_CONTROLS(TESSIK_CONTAINER_CONTROLS)
+
+  std::string sought;  // what was searched for last
 };
+
+/// All of it outlives the wiring.
+struct ContainerParts {
+  ContainerWindow& window;
+  OpenDocument& document;
+  UndoStore& undo;
+  base::Platform& platform;
+  errors::Reporter& reporter;
+};
+
+void wireContainer(base::Wiring& wiring, const ContainerParts& parts);
 
 /// Puts `block` at the end of the container's text; the selection stays where it is.
 void appendToContainer(base::RichText& container, const base::Document& block);
+
+/// Enables the container's editing commands as far as there is something for them, once its text was changed.
+void offerContainerEditing(ContainerWindow& window, const UndoStore& undo);
+
+/// The save dialog and all that follows it; a failure, cancelling included, is the caller's.
+void saveContainer(const ContainerParts& parts);
 
 }  // namespace editor

@@ -1,9 +1,8 @@
 // The document that is open.
 #include "editor/open_document.h"
 
-#include <algorithm>
-#include <limits>
-#include <utility>
+#include <filesystem>
+#include <optional>
 
 #include "base/encoding.h"
 #include "base/file_replacement.h"
@@ -14,6 +13,9 @@
 
 namespace editor {
 namespace {
+
+constexpr const char* kOpenFilter = "RTF-Dokument (*.rtf)|*.rtf|Textdatei (*.txt)|*.txt|Alle Dateien (*.*)|*.*";
+constexpr const char* kSaveFilter = "RTF-Dokument (*.rtf)|*.rtf";
 
 // A NUL stands in no text file but one of UTF-16, and in most others early.
 bool isText(std::string_view bytes) {
@@ -32,6 +34,22 @@ bool mayReplace(const std::string& path, base::Platform& platform) {
                               .buttons = base::MessageButtons::yesNo}) == base::MessageAnswer::yes;
 }
 
+base::Document readDocument(const std::string& path) {
+  const std::optional<std::string> bytes = base::readFile(path);
+  if (!bytes) throw base::fileFailure(base::ErrorNumber::fileNotFound, path);
+  if (!isText(*bytes)) throw base::fileFailure(base::ErrorNumber::badFormat, path);
+  return readDocumentFile(*bytes);
+}
+
+std::string askForName(const OpenDocument& document, base::Platform& platform) {
+  const std::string suggestion = std::filesystem::path(document.file).filename().string();
+  while (true) {
+    const std::string path =
+        withSuffix(platform.askSaveFile({.title = "Speichern", .filter = kSaveFilter, .suggestion = suggestion}));
+    if (mayReplace(path, platform)) return path;
+  }
+}
+
 }  // namespace
 
 bool isSaved(const OpenDocument& document, const base::RichText& text) {
@@ -40,12 +58,9 @@ bool isSaved(const OpenDocument& document, const base::RichText& text) {
 
 void markSaved(OpenDocument& document, const base::RichText& text) { document.savedRevision = text.revision(); }
 
-base::Document readDocument(const std::string& path, base::Platform& platform) {
-  platform.setHourglass(base::Hourglass::on);
-  const std::optional<std::string> bytes = base::readFile(path);
-  if (!bytes) throw base::fileFailure(base::ErrorNumber::fileNotFound, path);
-  if (!isText(*bytes)) throw base::fileFailure(base::ErrorNumber::badFormat, path);
-  return readDocumentFile(*bytes);
+bool holdsUnsaved(const OpenDocument& document, const base::RichText& text) {
+  const base::TextCount count = text.countAll();
+  return count.characters + count.lineEnds >= 1 && !isSaved(document, text);
 }
 
 void clearText(base::RichText& text) {
@@ -53,22 +68,35 @@ void clearText(base::RichText& text) {
   text.setFormat({});
 }
 
-std::string saveByDialog(const base::RichText& text, const std::string& suggestion, base::Platform& platform) {
-  std::string path;
-  do {
-    path = withSuffix(
-        platform.askSaveFile({.title = "Speichern", .filter = std::string(kSaveFilter), .suggestion = suggestion}));
-  } while (!mayReplace(path, platform));
-  platform.setHourglass(base::Hourglass::on);
-  base::replaceFile(path, writeRtf(text.document()));
-  platform.setHourglass(base::Hourglass::off);
-  return path;
+std::string askForDocument(base::Platform& platform) {
+  return platform.askOpenFile({.title = "Öffnen", .filter = kOpenFilter, .suggestion = {}});
 }
 
-base::MessageAnswer askToSave(base::Platform& platform) {
-  return platform.messageBox({.text = "Möchten Sie die Änderungen speichern?",
-                              .icon = base::MessageIcon::question,
-                              .buttons = base::MessageButtons::yesNoCancel});
+void loadDocument(const DocumentParts& parts, const std::string& path) {
+  parts.platform.setHourglass(base::Hourglass::on);
+  parts.text.setDocument(readDocument(path));
+  parts.document.file = path;
+  markSaved(parts.document, parts.text);
+  parts.undo.clear();
+  parts.platform.setHourglass(base::Hourglass::off);
+}
+
+void saveByDialog(const DocumentParts& parts) {
+  const std::string path = askForName(parts.document, parts.platform);
+  parts.platform.setHourglass(base::Hourglass::on);
+  base::replaceFile(path, writeRtf(parts.text.document()));
+  parts.platform.setHourglass(base::Hourglass::off);
+  parts.document.file = path;
+  markSaved(parts.document, parts.text);
+  parts.undo.clear();
+}
+
+void settleChanges(base::Platform& platform, const std::function<void()>& save, std::string_view question) {
+  const base::MessageAnswer answer = platform.messageBox({.text = std::string(question),
+                                                          .icon = base::MessageIcon::question,
+                                                          .buttons = base::MessageButtons::yesNoCancel});
+  if (answer == base::MessageAnswer::cancel) throw base::Failure(base::ErrorNumber::cancelled);
+  if (answer == base::MessageAnswer::yes) save();
 }
 
 }  // namespace editor

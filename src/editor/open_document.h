@@ -2,38 +2,52 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
 
-#include "base/controls.h"
 #include "base/platform.h"
 #include "base/rich_text.h"
+#include "editor/undo_store.h"
 
 namespace editor {
-
-inline constexpr std::string_view kOpenFilter =
-    "RTF-Dokument (*.rtf)|*.rtf|Textdatei (*.txt)|*.txt|Alle Dateien (*.*)|*.*";
-inline constexpr std::string_view kSaveFilter = "RTF-Dokument (*.rtf)|*.rtf";
 
 struct OpenDocument {
   std::string file;                 // the whole path, empty for a new document
   std::uint64_t savedRevision = 0;  // of the text as it was loaded or saved
 };
 
+/// A document with the text that shows it and what can be undone in that.
+struct DocumentParts {
+  OpenDocument& document;
+  base::RichText& text;
+  UndoStore& undo;
+  base::Platform& platform;
+};
+
 /// The text is as it was loaded or saved; any change of text or format ends that.
 bool isSaved(const OpenDocument& document, const base::RichText& text);
 void markSaved(OpenDocument& document, const base::RichText& text);
-
-/// Reads a file of RTF or plain text, with the hourglass on. What cannot be read, and what is no text, is a Failure.
-base::Document readDocument(const std::string& path, base::Platform& platform);
+/// There is text that is not saved.
+bool holdsUnsaved(const OpenDocument& document, const base::RichText& text);
 
 /// Empties the text and its format.
 void clearText(base::RichText& text);
 
-/// Asks for a name and writes the text as RTF under it, ".rtf" appended unless the name ends in exactly that; a file of
-/// that name is asked about. Returns the path. Leaving the dialog is a Failure (cancelled).
-std::string saveByDialog(const base::RichText& text, const std::string& suggestion, base::Platform& platform);
+/// The path to open. Leaving the dialog is a Failure (cancelled).
+std::string askForDocument(base::Platform& platform);
 
-/// The question before unsaved changes are lost: Yes asks to save, No lets them go, Cancel ends the command.
-base::MessageAnswer askToSave(base::Platform& platform);
+/// The document becomes that of the file, which is RTF or plain text. What cannot be read, and what is no text, is a
+/// Failure; everything is read before anything of the present document changes.
+void loadDocument(const DocumentParts& parts, const std::string& path);
+
+/// Asks for a name and writes the text as RTF under it, ".rtf" appended unless the name ends in exactly that; a file of
+/// that name is asked about. The document then is that file's. Leaving the dialog is a Failure (cancelled).
+void saveByDialog(const DocumentParts& parts);
+
+/// Before unsaved changes are lost: Yes saves them, No lets them go. Cancelling is a Failure (cancelled), and so is a
+/// save that is left.
+void settleChanges(base::Platform& platform, const std::function<void()>& save,
+                   std::string_view question = "Möchten Sie die Änderungen speichern?");
 
 }  // namespace editor

@@ -15,6 +15,7 @@ namespace {
 void wire(Program& program) {
   base::Wiring& wiring = program.wiring;
   commands::wireMainWindow(wiring, partsOf(program));
+  editor::wireContainer(wiring, containerPartsOf(program));
   calc::wirePicker(wiring, program.windows.picker, program.platform);
   wiring.on(program.windows.main.tmrLoad, base::Event::tick, [&program] { loadBehindScreen(program); });
   wiring.on(program.windows.main.tmrSicherung, base::Event::tick, [&program] { keepRecoveryCopy(program); });

@@ -28,4 +28,12 @@ commands::MainParts partsOf(Program& program) {
           .reporter = program.reporter};
 }
 
+editor::ContainerParts containerPartsOf(Program& program) {
+  return {.window = program.windows.container,
+          .document = program.containerDocument,
+          .undo = program.containerUndo,
+          .platform = program.platform,
+          .reporter = program.reporter};
+}
+
 }  // namespace lifecycle

@@ -27,6 +27,7 @@ struct Program {
   settings::ReadReport readReport{.problems = {}, .generalIsWhole = false, .listsAreWhole = false};
   frame::CalcResults results = {};
   editor::OpenDocument document = {};
+  editor::OpenDocument containerDocument = {};
   editor::RecoveryCopy recovery{paths.programDirectory};
   std::string fileToOpen;  // once the program stands, as the command line asks
   Windows windows = {};
@@ -43,7 +44,8 @@ struct Program {
   Program(base::Platform& world, const ProgramDirectory& directory);
 };
 
-/// The parts that the main window's procedures work on.
+/// The parts that the procedures of the main window and of the container work on.
 commands::MainParts partsOf(Program& program);
+editor::ContainerParts containerPartsOf(Program& program);
 
 }  // namespace lifecycle

@@ -8,10 +8,10 @@ namespace {
 
 constexpr int kLookMilliseconds = 2000;  // what is not in the copy is never older than this and its writing
 
-bool isUnsaved(const Program& program) {
-  const base::RichText& text = program.windows.main.rtfText;
-  const base::TextCount count = text.countAll();
-  return count.characters + count.lineEnds >= 1 && !editor::isSaved(program.document, text);
+bool isUnsaved(const Program& program) { return editor::holdsUnsaved(program.document, program.windows.main.rtfText); }
+
+bool holdsContainerUnsaved(const Program& program) {
+  return editor::holdsUnsaved(program.containerDocument, program.windows.container.rtfTextC);
 }
 
 constexpr const char* kNoCopy = "Keine Sicherungskopie: bitte speichern";
@@ -28,16 +28,29 @@ void takeBackFailure(base::Label& hint) {
   if (hint.text == kNoCopy) hint.text.clear(), hint.toolTip.clear();
 }
 
-// Asks; true when the text may go.
-bool isAnsweredFor(Program& program) {
-  const base::MessageAnswer answer = editor::askToSave(program.platform);
-  if (answer != base::MessageAnswer::yes) return answer == base::MessageAnswer::no;
-  bool isKept = false;
+// Asks, or fails as it is answered; true when the text may go.
+template <typename Question>
+bool isAnsweredFor(Program& program, Question ask) {
+  bool isAnswered = false;
   errors::reporting(program.reporter, "MAIN-frmUnload", [&] {
-    commands::SaveNow(partsOf(program));
-    isKept = true;
+    ask();
+    isAnswered = true;
   });
-  return isKept;
+  return isAnswered;
+}
+
+bool isDocumentAnsweredFor(Program& program) {
+  return isAnsweredFor(program, [&program] {
+    editor::settleChanges(program.platform, [&program] { commands::SaveNow(partsOf(program)); });
+  });
+}
+
+bool isContainerAnsweredFor(Program& program) {
+  return isAnsweredFor(program, [&program] {
+    editor::settleChanges(
+        program.platform, [&program] { editor::saveContainer(containerPartsOf(program)); },
+        "Möchten Sie die Änderungen im Text-Container speichern?");
+  });
 }
 
 }  // namespace
@@ -61,10 +74,12 @@ void keepForNextStart(Program& program) {
 }
 
 bool mayLeave(Program& program) {
+  const bool mayAsk = program.windows.main.mayAsk;
   if (isUnsaved(program)) {
-    if (!program.windows.main.mayAsk) return true;  // it is kept for the next start
-    if (!isAnsweredFor(program)) return false;
+    if (!mayAsk) return true;  // it is kept for the next start
+    if (!isDocumentAnsweredFor(program)) return false;
   }
+  if (mayAsk && holdsContainerUnsaved(program) && !isContainerAnsweredFor(program)) return false;
   // The copy was written on behind the question, too.
   program.windows.main.tmrSicherung.running = false;
   program.platform.awaitAside();

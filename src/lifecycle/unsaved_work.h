@@ -13,8 +13,9 @@ void keepRecoveryCopy(Program& program);
 /// asked.
 void keepForNextStart(Program& program);
 
-/// Whether the program may end as far as the document is concerned: asks to save it where that is needed, and removes
-/// the recovery copy unless nobody can be asked. A save that fails or is left keeps the program open.
+/// Whether the program may end as far as document and container are concerned: asks to save each where that is needed,
+/// and removes the recovery copy unless nobody can be asked. Nothing is let go before both are answered for; a save
+/// that fails or is left keeps the program open.
 bool mayLeave(Program& program);
 
 /// Offers what a program that did not end properly left behind.

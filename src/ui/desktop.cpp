@@ -88,12 +88,19 @@ void Desktop::dismiss(QWidget& inTheWay) {
   QTimer::singleShot(0, this, &Desktop::goOnEnding);
 }
 
+// What was closed on the way comes back when the program stays.
 bool Desktop::everyWindowCloses() {
   base::Window& main = program_->windows.main;
   const bool isQuiet = ending_ == Manner::quietly;
   const auto refusal = isQuiet ? ShownWindows::Refusal::isPassedOver : ShownWindows::Refusal::ends;
-  if (!windows_.closeAllBut(main, refusal) && !isQuiet) return false;
-  return mayClose(main, Context{program_->wiring, gate_}) || isQuiet;
+  const std::vector<base::Window*> wereOpen = windows_.open();
+  const bool haveClosed = windows_.closeAllBut(main, refusal) || isQuiet;
+  const bool mayEnd = haveClosed && (mayClose(main, Context{program_->wiring, gate_}) || isQuiet);
+  if (mayEnd || ending_ == Manner::quietly) return mayEnd;
+  for (base::Window* const window : wereOpen) {
+    if (!window->isOpen) windows_.show(*window);
+  }
+  return false;
 }
 
 // A quiet end that came while a question was open begins again, without it.

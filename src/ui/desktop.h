@@ -42,6 +42,7 @@ class Desktop : public QObject {
   void run(const Gate::Procedure& procedure) { gate_.userEvent(procedure); }
   [[nodiscard]] QtPlatform& platform() { return platform_; }
   [[nodiscard]] MainForm& mainForm() { return mainForm_; }
+  [[nodiscard]] QWidget& formOf(const base::Window& window) { return windows_.widgetOf(window); }
   [[nodiscard]] lifecycle::Program& program() { return *program_; }
 
  private:

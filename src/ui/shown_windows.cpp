@@ -46,7 +46,7 @@ ShownWindows::Entry& ShownWindows::entryOf(const base::Window& model) {
   return **found;
 }
 
-// Later windows belong to the first one, the main window.
+// Later windows belong to the first one, the main window, unless their form does not want that.
 ShownWindows::Entry& ShownWindows::built(Entry& entry) {
   if (entry.widget != nullptr) return entry;
   QWidget* const parent = &entry == entries_.front().get() ? nullptr : entries_.front()->widget;
@@ -96,6 +96,12 @@ void ShownWindows::hide(base::Window& model) {
 
 void ShownWindows::requestClose(base::Window& model) {
   QMetaObject::invokeMethod(&widgetOf(model), &QWidget::close, Qt::QueuedConnection);
+}
+
+std::vector<base::Window*> ShownWindows::open() const {
+  std::vector<base::Window*> models;
+  for (const Entry* const entry : open_) models.push_back(entry->model);
+  return models;
 }
 
 bool ShownWindows::closeAllBut(const base::Window& last, Refusal refusal) {

@@ -39,6 +39,9 @@ class ShownWindows : public QObject {
   /// Closes the window, once the procedure under way has ended, if it lets itself be closed.
   void requestClose(base::Window& model);
 
+  /// The newest last.
+  [[nodiscard]] std::vector<base::Window*> open() const;
+
   /// What becomes of the other windows when one refuses to close.
   enum class Refusal { ends, isPassedOver };
   /// Closes every open window but `last`, the newest first; false when one refuses.

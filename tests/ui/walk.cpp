@@ -58,11 +58,11 @@ Walk::Walk(const Premises& premises, const std::function<void(Walk&)>& expectati
   person_.start(1);
   if (expectations) expectations(*this);
   desktop = std::make_unique<Desktop>(lifecycle::ProgramDirectory{.path = premises.data});
+  form_ = &desktop->mainForm();
   desktop->platform().setBell([this] { ++beeps; });
   EXPECT_EQ(desktop->load(), lifecycle::StartUp::goesOn);
   EXPECT_TRUE(QTest::qWaitFor([this] { return desktop->mainForm().isVisible(); }, kPatience));
-  QApplication::setActiveWindow(&desktop->mainForm());
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop->mainForm(), kPatience));
+  turnTo(desktop->program().windows.main);
 }
 
 Walk::~Walk() { EXPECT_TRUE(expected_.empty()) << expected_.size() << " questions never asked"; }
@@ -92,6 +92,12 @@ void Walk::expectBox(const QString& text, QMessageBox::StandardButton button) {
     ASSERT_NE(box->button(button), nullptr) << toUtf8(box->text());
     QTest::mouseClick(static_cast<QWidget*>(box->button(button)), Qt::LeftButton);
   });
+}
+
+void Walk::turnTo(const base::Window& window) {
+  form_ = &desktop->formOf(window);
+  QApplication::setActiveWindow(form_);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(form_, kPatience));
 }
 
 std::string Walk::text(const char* name) {
@@ -148,10 +154,11 @@ void Walk::leave() {
   close();
 }
 
-// Without a window manager nobody else brings the main window back to the front.
+// Without a window manager nobody else brings the window back to the front.
 void Walk::settle() {
   QCoreApplication::processEvents();
-  if (QApplication::activeWindow() == nullptr) QApplication::setActiveWindow(&desktop->mainForm());
+  if (QApplication::activeWindow() == nullptr)
+    QApplication::setActiveWindow(form_->isVisible() ? form_ : &desktop->mainForm());
 }
 
 }  // namespace ui

@@ -53,9 +53,12 @@ class Walk {
   /// The next box says `text` (or contains it) and is answered by `button`.
   void expectBox(const QString& text, QMessageBox::StandardButton button);
 
+  /// The walk goes on in this window; names mean its widgets from now on.
+  void turnTo(const base::Window& window);
+
   template <typename Widget>
   Widget& widget(const char* name) {
-    auto* const found = desktop->mainForm().findChild<Widget*>(QString::fromUtf8(name));
+    auto* const found = form_->findChild<Widget*>(QString::fromUtf8(name));
     if (found == nullptr) throw std::runtime_error(std::string("no widget ") + name);
     return *found;
   }
@@ -88,6 +91,7 @@ class Walk {
 
   std::deque<std::function<void(QDialog&)>> expected_;
   QTimer person_;
+  QWidget* form_ = nullptr;  // of the window that the walk is in
   bool isActing_ = false;
 };
 

@@ -2,27 +2,21 @@
 #include "ui/forms/form_table.h"
 
 #include <QGuiApplication>
-#include <QMainWindow>
 #include <QScreen>
 #include <algorithm>
 #include <array>
 
 #include "base/failure.h"
+#include "ui/forms/container_form.h"
 #include "ui/forms/form_dialog.h"
+#include "ui/forms/letter_size.h"
 #include "ui/forms/main_form.h"
-#include "ui_container.h"
 #include "ui_loading.h"
 #include "ui_picker.h"
 #include "ui_wait.h"
 
 namespace ui {
 namespace {
-
-/// That many average letters wide and lines high, in the desktop's type.
-QSize inLetters(const QWidget& window, int columns, int lines) {
-  const QFontMetrics metrics = window.fontMetrics();
-  return {columns * metrics.averageCharWidth(), lines * metrics.lineSpacing()};
-}
 
 template <typename Drawn, int columns, int lines>
 QWidget* dialog(QWidget* parent) {
@@ -51,12 +45,8 @@ QWidget* waitWindow(QWidget* parent) {
   return window;
 }
 
-QWidget* container(QWidget* parent) {
-  auto* const window = new QMainWindow(parent);
-  Ui::ContainerForm().setupUi(window);
-  window->resize(inLetters(*window, 140, 40));
-  return window;
-}
+// A window of its own beside the main window, which may stand in front of it.
+QWidget* container(QWidget* /*parent*/) { return new ContainerForm; }
 
 constexpr std::array kForms = {
     Form{"frmMain", mainWindow},

@@ -11,7 +11,7 @@ enum class Appears { atOnce, whenItTakesLonger };
 
 struct Form {
   std::string_view window;  // its name
-  /// Owned by `parent` where there is one.
+  /// Owned by `parent` where there is one, unless it is a window on its own.
   QWidget* (*build)(QWidget* parent);
   Appears appears = Appears::atOnce;
 };
