@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QScreen>
 #include <utility>
@@ -99,12 +100,17 @@ base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
 }
 
 std::optional<std::string> QtPlatform::inputBox(const base::InputQuestion& question) {
+  constexpr int kColumns = 70;
   const Gate::ModalWait wait(gate_);
-  bool isAnswered = false;
-  const QString line =
-      QInputDialog::getText(QApplication::activeWindow(), toQString(question.title), toQString(question.text),
-                            QLineEdit::Normal, toQString(question.suggestion), &isAnswered);
-  return isAnswered ? std::optional(toUtf8(line)) : std::nullopt;
+  QInputDialog dialog(QApplication::activeWindow());
+  dialog.setWindowTitle(toQString(question.title));
+  dialog.setLabelText(toQString(question.text));
+  dialog.setTextValue(toQString(question.suggestion));
+  // A long question would make the box wider than a small screen.
+  auto& label = *dialog.findChild<QLabel*>();
+  label.setWordWrap(true);
+  label.setMinimumWidth(kColumns * label.fontMetrics().averageCharWidth());
+  return dialog.exec() == QDialog::Accepted ? std::optional(toUtf8(dialog.textValue())) : std::nullopt;
 }
 
 std::string QtPlatform::askOpenFile(const base::FileQuestion& question) {

@@ -47,7 +47,7 @@ TEST(ContainerWalk, IsWrittenUndoneZoomedAndCopiedBesideTheMainWindow) {
     walk.press(Qt::CTRL | Qt::Key_Y);
     EXPECT_EQ(walk.text("rtfTextC"), "Auto Haus");
     walk.press(Qt::CTRL | Qt::Key_Plus);
-    EXPECT_EQ(walk.text("fixAnsichtsgröße"), "175 %");
+    EXPECT_EQ(walk.text("fixAnsichtsgröße"), "150 %");
     walk.press(Qt::CTRL | Qt::Key_A);
     walk.press(Qt::CTRL | Qt::Key_X);
     EXPECT_FALSE(walk.window.mnuCut.enabled || walk.window.mnuMarkAll.enabled);
@@ -75,7 +75,7 @@ TEST(ContainerWalk, IsWrittenUndoneZoomedAndCopiedBesideTheMainWindow) {
     walk.close();
   }
   ContainerWalk again(shop);
-  EXPECT_EQ(again.text("rtfTextC") + again.text("fixAnsichtsgröße"), "175 %");
+  EXPECT_EQ(again.text("rtfTextC") + again.text("fixAnsichtsgröße"), "150 %");
   again.close();
 }
 

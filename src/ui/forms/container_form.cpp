@@ -13,7 +13,7 @@ namespace ui {
 namespace {
 
 constexpr const char* kGeometryKey = "Container";
-constexpr View kView{.firstZoom = 150, .storeKey = "ContainerAnsicht"};
+constexpr View kView{.firstZoom = 125, .storeKey = "ContainerAnsicht"};
 
 }  // namespace
 
@@ -36,7 +36,7 @@ ContainerForm::ContainerForm() {
                             .shown = drawn.fixAnsichtsgröße},
                            kView);
   view_->restore();
-  resize(inLetters(*this, 100, 36));
+  resize(inLetters(*this, 104, 36));
   if (const auto geometry = storedBytes(kGeometryKey)) restoreGeometry(*geometry);
   drawn.rtfTextC->setFocus();
 }
