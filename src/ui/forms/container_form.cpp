@@ -36,7 +36,7 @@ ContainerForm::ContainerForm() {
                             .shown = drawn.fixAnsichtsgröße},
                            kView);
   view_->restore();
-  resize(inLetters(*this, 104, 36));
+  resize(inLettersOnScreen(*this, 104, 36));
   if (const auto geometry = storedBytes(kGeometryKey)) restoreGeometry(*geometry);
   drawn.rtfTextC->setFocus();
 }

@@ -1,8 +1,6 @@
 // The main window on the screen.
 #include "ui/forms/main_form.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
 #include <initializer_list>
@@ -23,7 +21,6 @@ constexpr const char* kSplitterKey = "Teiler";
 constexpr const char* kZoomKey = "Ansicht";
 // A lettering is written in the 8 points of an ordinary document and looked at from some way off.
 constexpr int kFirstZoom = 300;
-constexpr double kShareOfSmallScreen = 0.95;  // the rest is for the window's frame
 
 std::unique_ptr<Ui::MainWindowForm> drawnOn(QMainWindow& window) {
   auto drawn = std::make_unique<Ui::MainWindowForm>();
@@ -121,9 +118,7 @@ MainForm::~MainForm() = default;
 void MainForm::fitToScreen() {
   constexpr int kColumns = 200;  // average letters
   constexpr int kLines = 53;
-  const QSize wanted = inLetters(*this, kColumns, kLines);
-  const QSize available = QGuiApplication::primaryScreen()->availableSize();
-  resize(wanted.boundedTo(available * kShareOfSmallScreen));
+  resize(inLettersOnScreen(*this, kColumns, kLines));
 }
 
 void MainForm::restoreLayout() {
