@@ -20,7 +20,7 @@ DocumentParts documentOf(const ContainerParts& parts) {
   return {.document = parts.document, .text = parts.window.rtfTextC, .undo = parts.undo, .platform = parts.platform};
 }
 
-// What follows every command but those that only look.
+// What follows every command.
 void showState(const ContainerParts& parts) {
   offerContainerEditing(parts.window, parts.undo);
   parts.window.rtfTextC.wantsFocus = true;

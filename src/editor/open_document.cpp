@@ -44,7 +44,7 @@ base::Document readDocument(const std::string& path) {
 std::string askForName(const OpenDocument& document, base::Platform& platform) {
   const std::string suggestion = std::filesystem::path(document.file).filename().string();
   while (true) {
-    const std::string path =
+    std::string path =
         withSuffix(platform.askSaveFile({.title = "Speichern", .filter = kSaveFilter, .suggestion = suggestion}));
     if (mayReplace(path, platform)) return path;
   }
