@@ -1,7 +1,7 @@
 // The controls of a window as plain values: what the logic reads and writes, and the sync pass carries to the screen.
 //
-// Nothing here notifies anybody. Focus and "select the text" are one-shot requests that the sync pass fulfils and takes
-// back. An assignment has no effect beyond the value; what shall follow it is a call in the logic.
+// Nothing here notifies anybody. Focus, "select the text" and "open the menu" are one-shot requests that the sync pass
+// fulfils and takes back. An assignment has no effect beyond the value; what shall follow it is a call in the logic.
 #pragma once
 
 #include <cstdint>
@@ -139,6 +139,13 @@ struct MenuEntry : Control {
   std::string text;  // empty: the caption that the form draws
 
   bool operator==(const MenuEntry&) const = default;
+};
+
+/// A menu that the form draws. `wantsToOpen` opens it where the person is at work.
+struct Menu : Control {
+  bool wantsToOpen = false;
+
+  bool operator==(const Menu&) const = default;
 };
 
 /// The cards of a window of which one is on top.

@@ -30,6 +30,8 @@ enum class Event {
   keyEscape,
   keyOther,    // any other key, once the control has used it
   rightPress,  // the right mouse button went down
+  mouseMove,   // the mouse moved over a label
+  menuClosed,  // a menu is gone that opened because it was asked to
   leaving,     // the user takes the focus elsewhere; a request for the focus keeps it
   tick,        // a timer's interval has passed
   closing,     // a window is about to close; its keepsOpen says whether it may

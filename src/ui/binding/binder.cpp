@@ -8,6 +8,7 @@
 #include <array>
 
 #include "ui/binding/binding_list.h"
+#include "ui/binding/binding_menu.h"
 #include "ui/binding/binding_rich_text.h"
 #include "ui/binding/binding_simple.h"
 #include "ui/binding/binding_text.h"
@@ -71,6 +72,10 @@ std::unique_ptr<Binding> makeBinding(base::Button& model, QObject& shown, const 
 
 std::unique_ptr<Binding> makeBinding(base::MenuEntry& model, QObject& shown, const Context& context) {
   return commandBinding(model, shown, context);
+}
+
+std::unique_ptr<Binding> makeBinding(base::Menu& model, QObject& shown, const Context& context) {
+  return bindingTo<MenuBinding, QMenu>(model, shown, context);
 }
 
 std::unique_ptr<Binding> makeBinding(base::ToggleButton& model, QObject& shown, const Context& context) {

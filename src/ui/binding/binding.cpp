@@ -100,6 +100,9 @@ bool Binding::eventFilter(QObject* watched, QEvent* event) {
       return false;
     case QEvent::MouseButtonPress:
       return static_cast<const QMouseEvent&>(*event).button() == Qt::RightButton && answers(Event::rightPress);
+    case QEvent::MouseMove:
+      answers(Event::mouseMove);
+      return false;
     case QEvent::ContextMenu:
       // The mouse has been answered when it went down; the menu key has not.
       if (!handles(Event::rightPress)) return false;

@@ -74,7 +74,7 @@ class Binding : public QObject, public Carrier {
   /// The widget may show something else than was carried last.
   virtual void distrust() {}
 
-  /// Keys with a meaning of their own, the right mouse button, and the focus that leaves.
+  /// Keys with a meaning of their own, the right mouse button, the mouse that moves, and the focus that leaves.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

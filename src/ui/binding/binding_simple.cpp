@@ -44,6 +44,7 @@ Qt::WindowStates withState(Qt::WindowStates states, WindowState state) {
 LabelBinding::LabelBinding(base::Label& model, QLabel& widget, const Context& context)
     : BindingOf(model, widget, context), drawn_(widget.palette()) {
   widget.setTextFormat(Qt::PlainText);
+  widget.setMouseTracking(true);
 }
 
 void LabelBinding::carryOwn() {
