@@ -4,9 +4,9 @@
 #include "base/version.h"
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
-#include "calc/running_sum.h"
 #include "commands/file_commands.h"
 #include "commands/format_commands.h"
+#include "commands/running_sum_commands.h"
 #include "commands/undo_commands.h"
 #include "editor/editing.h"
 
@@ -121,15 +121,6 @@ void wireAmountBoxes(Wiring& wiring, const MainParts& parts) {
   }
 }
 
-void wireAddByHand(Wiring& wiring, const MainParts& parts) {
-  const auto add = reported(parts, "MAIN-cmdAddPerHand",
-                            [](const MainParts& p) { calc::addByHand(p.window, p.platform.numberFormat()); });
-  wiring.on(parts.window.cmdAddPerHand, Event::click, add);
-  wiring.filter(parts.window.txtAddPerHand, calc::signedAmountKey);
-  wiring.on(parts.window.txtAddPerHand, Event::keyEnter, add);
-  wiring.on(parts.window.txtAddPerHand, Event::changed, reported(parts, "MAIN-txtAddPerHand", calculate));
-}
-
 }  // namespace
 
 void selectSurcharge(const MainParts& parts, int index) {
@@ -158,7 +149,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireHeightAndQuantity(wiring, parts);
   wireAdjustmentLists(wiring, parts);
   wireAmountBoxes(wiring, parts);
-  wireAddByHand(wiring, parts);
+  wireRunningSum(wiring, parts);
 }
 
 }  // namespace commands

@@ -20,7 +20,6 @@ MainWindow::MainWindow() : Window("frmMain") {
   }
   mnuUndo.enabled = mnuRedo.enabled = false;
   lblRCalc.text = "0.00 EUR";
-  lblRCalc.toolTip = "Gesamtsumme des Rechners: " + lblRCalc.text;
 }
 
 }  // namespace frame

@@ -68,6 +68,17 @@ namespace frame {
   CONTROL(base::Label, lblRCalc)                                                               \
   CONTROL(base::TextBox, txtAddPerHand)                                                        \
   CONTROL(base::Button, cmdAddPerHand)                                                         \
+  CONTROL(base::Button, cmdAdd)                                                                \
+  CONTROL(base::Button, cmdSub)                                                                \
+  CONTROL(base::Button, cmdLöschen)              /* of the sums in the price, back to the old one */ \
+  CONTROL(base::Button, cmdClear)                /* adds the marked sums to the price */       \
+  CONTROL(base::Button, cmdDestroy)              /* empties the list */                        \
+  CONTROL(base::Menu, mnuEditCalc)                                                             \
+  CONTROL(base::MenuEntry, mnuCalcAdd)                                                         \
+  CONTROL(base::MenuEntry, mnuCalcSub)                                                         \
+  CONTROL(base::MenuEntry, mnuOldPrice)                                                        \
+  CONTROL(base::MenuEntry, mnuCalcAddToPrice)                                                  \
+  CONTROL(base::MenuEntry, mnuCalcClear)                                                       \
   /* the menus */                                                                              \
   CONTROL(base::MenuEntry, mnuNeu)                                                             \
   CONTROL(base::MenuEntry, mnuOpen)                                                            \

@@ -155,4 +155,16 @@ TEST(RunningSum, AmountsAddedByHandMakeUpTheSum) {
   EXPECT_EQ(desk.window.lblRCalc.text, "14,51 EUR");
 }
 
+TEST(RunningSum, HoldsAsManyEntriesAsA16BitIndexCounts) {
+  PricedDesk desk;
+  desk.window.cboCalc.items.assign(std::vector<std::string>(32'766, "0.01 EUR"));
+  desk.click(desk.window.mnuCalcAdd);
+  desk.click(desk.window.cmdAdd);
+  EXPECT_EQ(desk.window.cboCalc.marked, std::vector{32'766});
+  desk.type(desk.window.txtAddPerHand, "3");
+  desk.platform.expectAnyMessage(base::MessageAnswer::ok);
+  desk.click(desk.window.cmdAddPerHand);
+  EXPECT_EQ(desk.window.cboCalc.items.size(), 32'767);
+}
+
 }  // namespace

@@ -157,8 +157,9 @@ void Walk::leave() {
 // Without a window manager nobody else brings the window back to the front.
 void Walk::settle() {
   QCoreApplication::processEvents();
-  if (QApplication::activeWindow() == nullptr)
-    QApplication::setActiveWindow(form_->isVisible() ? form_ : &desktop->mainForm());
+  const QWidget* const active = QApplication::activeWindow();
+  if (active != nullptr && active->isVisible()) return;
+  QApplication::setActiveWindow(form_->isVisible() ? form_ : &desktop->mainForm());
 }
 
 }  // namespace ui

@@ -145,22 +145,6 @@ TEST(Walk, SurchargesAndDiscountsAreChosenFromTheirListsAndPickers) {
   walk.leave();
 }
 
-TEST(Walk, AnAmountByHandJoinsTheRunningSum) {
-  const Shop shop;
-  Walk walk(shop);
-  walk.fill("txtAddPerHand", "12,5x");
-  EXPECT_EQ(walk.beeps, 1);
-  walk.press(Qt::Key_Return);
-  walk.fill("txtAddPerHand", "-2,25");
-  walk.click("cmdAddPerHand");
-  const auto* const entries = walk.widget<QListView>("cboCalc").model();
-  ASSERT_EQ(entries->rowCount(), 2);
-  EXPECT_EQ(entries->index(0, 0).data().toString() + " " + entries->index(1, 0).data().toString(),
-            "12.50 EUR -2.25 EUR");
-  EXPECT_EQ(walk.text("lblRCalc"), "10,25 EUR");
-  walk.close();
-}
-
 TEST(Walk, DamagedSettingsAreToldAndKeptAndTheProgramGoesOn) {
   const Shop shop;
   shop.write("Ostrowerk.ini", "[Einstellungen]\r\nMwst=viel\r\n");

@@ -16,10 +16,19 @@ QSize HintingList::minimumSizeHint() const {
 
 void HintingList::paintEvent(QPaintEvent* event) {
   QListView::paintEvent(event);
-  if (model() != nullptr && model()->rowCount() > 0) return;
   QPainter painter(viewport());
+  frameCurrent(painter);
+  if (model() != nullptr && model()->rowCount() > 0) return;
   painter.setPen(palette().color(QPalette::PlaceholderText));
   painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, placeholderText_);
+}
+
+void HintingList::frameCurrent(QPainter& painter) const {
+  const QModelIndex current = currentIndex();
+  if (!current.isValid()) return;
+  const bool isMarked = selectionModel()->isSelected(current);
+  painter.setPen(palette().color(isMarked ? QPalette::HighlightedText : QPalette::Highlight));
+  painter.drawRect(visualRect(current).adjusted(0, 0, -1, -1));
 }
 
 }  // namespace ui

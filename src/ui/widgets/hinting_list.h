@@ -19,6 +19,9 @@ class HintingList : public QListView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  /// A command acts on the current row, which is to be seen though it is not marked and the focus elsewhere.
+  void frameCurrent(QPainter& painter) const;
+
   QString placeholderText_;
 };
 
