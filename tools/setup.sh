@@ -10,7 +10,7 @@ build=$root/build/release
 # libgtest-dev is needed to run because the release preset configures the tests as well.
 run_packages=(
   g++ cmake ninja-build qt6-base-dev libgtest-dev
-  libqt6svg6 breeze-icon-theme fonts-dejavu-core qt6-translations-l10n
+  libhunspell-dev hunspell-de-de libqt6svg6 breeze-icon-theme fonts-dejavu-core qt6-translations-l10n
 )
 # Without it Qt reaches a Wayland desktop only through its X server.
 [[ -z ${WAYLAND_DISPLAY:-} ]] || run_packages+=(qt6-wayland)

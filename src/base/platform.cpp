@@ -42,5 +42,6 @@ void Platform::saveUserSettings(const std::vector<UserSetting>& /*settings*/) { 
 NumberFormat Platform::numberFormat() const { notAvailable(); }
 std::string Platform::composed(std::string_view /*text*/) const { notAvailable(); }
 std::vector<std::string> Platform::fontFamilies() const { notAvailable(); }
+Dictionary* Platform::dictionary() { return nullptr; }
 
 }  // namespace base

@@ -12,6 +12,7 @@
 
 #include "base/controls.h"
 #include "base/date_time.h"
+#include "base/dictionary.h"
 #include "base/document.h"
 #include "base/money.h"
 #include "base/system_information.h"
@@ -130,6 +131,8 @@ class Platform {
   [[nodiscard]] virtual NumberFormat numberFormat() const;
   /// `text` in Unicode normalization form C.
   [[nodiscard]] virtual std::string composed(std::string_view text) const;
+  /// The German dictionary, read when it is first asked for; null while there is none that can be read.
+  [[nodiscard]] virtual Dictionary* dictionary();
   /// The typefaces of the screen, in the order in which they are offered.
   [[nodiscard]] virtual std::vector<std::string> fontFamilies() const;
 };

@@ -103,6 +103,20 @@ void appendCodePoint(std::string& text, char32_t codePoint) {
   }
 }
 
+std::u32string toUtf32(std::string_view text) {
+  std::u32string result;
+  result.reserve(text.size());
+  while (!text.empty()) result += takeCodePoint(text);
+  return result;
+}
+
+std::string toUtf8(std::u32string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  for (const char32_t codePoint : text) appendCodePoint(result, codePoint);
+  return result;
+}
+
 bool isValidUtf8(std::string_view text) {
   while (!text.empty()) {
     const Decoded next = decode(text);

@@ -31,6 +31,10 @@ void appendCodePoint(std::string& text, char32_t codePoint);
 
 bool isValidUtf8(std::string_view text);
 
+/// As code points; ill-formed bytes come as U+FFFD, one each.
+std::u32string toUtf32(std::string_view text);
+std::string toUtf8(std::u32string_view text);
+
 std::string replaceAll(std::string_view text, std::string_view what, std::string_view with);
 
 /// Turns every line end (CR LF, LF, CR, U+2028, U+2029) into CR LF.

@@ -7,6 +7,7 @@
 #include "commands/file_commands.h"
 #include "commands/format_commands.h"
 #include "commands/running_sum_commands.h"
+#include "commands/spelling_commands.h"
 #include "commands/undo_commands.h"
 #include "editor/editing.h"
 
@@ -145,6 +146,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireEditing(wiring, parts);
   wireFiles(wiring, parts);
   wireUndo(wiring, parts);
+  wireSpelling(wiring, parts);
   wireProgram(wiring, parts);
   wireHeightAndQuantity(wiring, parts);
   wireAdjustmentLists(wiring, parts);

@@ -9,6 +9,7 @@
 #include "calc/picker.h"
 #include "editor/container.h"
 #include "editor/open_document.h"
+#include "editor/spelling_dialog.h"
 #include "editor/undo_store.h"
 #include "errors/reporting.h"
 #include "frame/main_window.h"
@@ -29,6 +30,8 @@ struct MainParts {
   calc::PickerWindow& picker;
   editor::ContainerWindow& container;
   editor::UndoStore& containerUndo;
+  editor::SpellingWindow& spellingWindow;
+  editor::Spelling& spelling;
   base::Platform& platform;
   errors::Reporter& reporter;
 };

@@ -97,6 +97,7 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuPastePlain)                                                      \
   CONTROL(base::MenuEntry, mnuDelete)                                                          \
   CONTROL(base::MenuEntry, mnuMarkAll)                                                         \
+  CONTROL(base::MenuEntry, mnuRechtschreibung)                                                 \
   CONTROL(base::MenuEntry, mnuInfo)                                                            \
   /* the status line */                                                                        \
   CONTROL(base::Label, lblZeile)                 /* format at the caret, line and column */    \

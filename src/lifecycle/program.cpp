@@ -24,6 +24,8 @@ commands::MainParts partsOf(Program& program) {
           .picker = program.windows.picker,
           .container = program.windows.container,
           .containerUndo = program.containerUndo,
+          .spellingWindow = program.windows.spelling,
+          .spelling = program.spelling,
           .platform = program.platform,
           .reporter = program.reporter};
 }

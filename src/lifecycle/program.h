@@ -7,6 +7,7 @@
 #include "base/wiring.h"
 #include "commands/main_commands.h"
 #include "editor/recovery.h"
+#include "editor/spelling.h"
 #include "editor/undo_store.h"
 #include "errors/reporting.h"
 #include "lifecycle/program_directory.h"
@@ -29,6 +30,7 @@ struct Program {
   editor::OpenDocument document = {};
   editor::OpenDocument containerDocument = {};
   editor::RecoveryCopy recovery{paths.programDirectory};
+  editor::Spelling spelling{platform, paths.ownWords()};
   std::string fileToOpen;  // once the program stands, as the command line asks
   Windows windows = {};
   editor::UndoStore undo{windows.main.rtfText, settings.user.undoDepth};

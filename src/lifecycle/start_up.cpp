@@ -156,6 +156,7 @@ void loadBehindScreen(Program& program) {
   if (program.settings.user.windowState == "2") program.windows.main.state = base::WindowState::maximised;
   parts.platform.show(program.windows.main);
   editor::markSaved(program.document, program.windows.main.rtfText);
+  errors::reporting(parts.reporter, kTimerTag, [&] { program.spelling.readOwnWords(); });
   errors::reporting(parts.reporter, kTimerTag, [&] { offerRecovered(program); });
   if (!program.fileToOpen.empty()) commands::openFile(parts, program.fileToOpen);
 }

@@ -5,6 +5,7 @@
 
 #include "calc/picker.h"
 #include "editor/container.h"
+#include "editor/spelling_dialog.h"
 #include "frame/main_window.h"
 #include "frame/wait_window.h"
 #include "lifecycle/loading_window.h"
@@ -17,7 +18,8 @@ namespace lifecycle {
   WINDOW(LoadingWindow, loading)        \
   WINDOW(frame::WaitWindow, wait)       \
   WINDOW(calc::PickerWindow, picker)    \
-  WINDOW(editor::ContainerWindow, container)
+  WINDOW(editor::ContainerWindow, container) \
+  WINDOW(editor::SpellingWindow, spelling)
 // clang-format on
 
 #define TESSIK_DECLARE_WINDOW(Kind, name) Kind name;

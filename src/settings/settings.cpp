@@ -16,5 +16,6 @@ std::string Paths::generalSettings() const { return base::joinPath(programDirect
 std::string Paths::adjustmentSettings() const { return base::joinPath(programDirectory, "Tessik.ini"); }
 
 std::string Paths::priceDatabase() const { return base::joinPath(programDirectory, "Tessik.pdb"); }
+std::string Paths::ownWords() const { return base::joinPath(programDirectory, "Woerter.txt"); }
 
 }  // namespace settings

@@ -45,6 +45,7 @@ struct Paths {
   [[nodiscard]] std::string generalSettings() const;     // Ostrowerk.ini
   [[nodiscard]] std::string adjustmentSettings() const;  // Tessik.ini
   [[nodiscard]] std::string priceDatabase() const;       // Tessik.pdb
+  [[nodiscard]] std::string ownWords() const;            // Woerter.txt
 };
 
 /// Lists that are read and kept although nothing uses them yet.

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/failure.h"
+#include "commands/spelling_commands.h"
 #include "ui/binding/binding_simple.h"
 
 namespace ui {
@@ -23,6 +24,9 @@ Desktop::Desktop(const lifecycle::ProgramDirectory& directory)
   });
   sync_.open(timers_);
   mainForm_.installEventFilter(this);
+  mainForm_.checkSpelling(program_->spelling, [this](const std::u32string& word) {
+    gate_.userEvent([&] { commands::addOwnWord(lifecycle::partsOf(*program_), word); });
+  });
   mainForm_.restoreLayout();
 }
 

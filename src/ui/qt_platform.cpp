@@ -223,6 +223,12 @@ base::NumberFormat QtPlatform::numberFormat() const { return qtcore::userNumberF
 
 std::string QtPlatform::composed(std::string_view text) const { return qtcore::composed(text); }
 
+base::Dictionary* QtPlatform::dictionary() {
+  const auto stem = dictionary_ ? std::nullopt : HunspellDictionary::installed();
+  if (stem) dictionary_ = HunspellDictionary::read(*stem);
+  return dictionary_.get();
+}
+
 std::vector<std::string> QtPlatform::fontFamilies() const {
   std::vector<std::string> families;
   for (const QString& family : QFontDatabase::families()) {

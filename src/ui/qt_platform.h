@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,7 @@
 #include "ui/binding/gate.h"
 #include "ui/binding/input_filter.h"
 #include "ui/binding/sync.h"
+#include "ui/hunspell_dictionary.h"
 #include "ui/shown_windows.h"
 
 namespace ui {
@@ -59,6 +61,7 @@ class QtPlatform : public base::Platform {
   void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   [[nodiscard]] base::NumberFormat numberFormat() const override;
   [[nodiscard]] std::string composed(std::string_view text) const override;
+  [[nodiscard]] base::Dictionary* dictionary() override;
   [[nodiscard]] std::vector<std::string> fontFamilies() const override;
 
  private:
@@ -68,6 +71,7 @@ class QtPlatform : public base::Platform {
   ShownWindows& windows_;
   std::function<void()> bell_;
   Aside aside_;
+  std::unique_ptr<HunspellDictionary> dictionary_;
   bool hasHourglass_ = false;
   bool isUnattended_ = false;
   std::chrono::steady_clock::time_point lastRefresh_;

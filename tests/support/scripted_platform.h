@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,18 @@
 #include "base/platform.h"
 
 namespace support {
+
+/// Knows the words it is given, and what each misspelt one may have meant.
+struct ScriptedDictionary : base::Dictionary {
+  std::set<std::string, std::less<>> words;
+  std::map<std::string, std::vector<std::string>, std::less<>> meant;
+
+  [[nodiscard]] bool knows(std::string_view word) override { return words.contains(word); }
+  [[nodiscard]] std::vector<std::string> suggestions(std::string_view word) override {
+    const auto found = meant.find(word);
+    return found == meant.end() ? std::vector<std::string>() : found->second;
+  }
+};
 
 class ScriptedPlatform : public base::Platform {
  public:
@@ -48,6 +61,7 @@ class ScriptedPlatform : public base::Platform {
   bool asideFails = false;
   base::Hourglass hourglass = base::Hourglass::off;
   base::NumberFormat format;
+  std::optional<ScriptedDictionary> german;  // none: not installed
   std::vector<std::string> families = {"Arial", "DejaVu Sans"};
   /// What asking for the typefaces and storing user settings fail with.
   std::optional<base::Failure> fontFailure;
@@ -85,6 +99,7 @@ class ScriptedPlatform : public base::Platform {
   void setHourglass(base::Hourglass value) override { hourglass = value; }
   [[nodiscard]] base::NumberFormat numberFormat() const override { return format; }
   [[nodiscard]] std::string composed(std::string_view text) const override { return std::string(text); }
+  [[nodiscard]] base::Dictionary* dictionary() override { return german ? &*german : nullptr; }
   [[nodiscard]] std::vector<std::string> fontFamilies() const override {
     if (fontFailure) throw base::Failure(*fontFailure);
     return families;

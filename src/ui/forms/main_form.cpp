@@ -134,6 +134,10 @@ void MainForm::saveLayout() const {
   view_->save();
 }
 
+void MainForm::checkSpelling(editor::Spelling& spelling, SpellingAids::TakeIn takeIn) {
+  new SpellingAids(*drawn_->rtfText, *drawn_->fixWellen, spelling, std::move(takeIn));
+}
+
 void MainForm::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
   if (isPainted_) return;

@@ -5,6 +5,8 @@
 #include <functional>
 #include <memory>
 
+#include "ui/forms/spelling_aids.h"
+
 namespace Ui {
 class MainWindowForm;
 }
@@ -22,6 +24,9 @@ class MainForm : public QMainWindow {
   /// one that exists.
   void restoreLayout();
   void saveLayout() const;
+
+  /// Lets the document be checked while it is written; `spelling` outlives the window.
+  void checkSpelling(editor::Spelling& spelling, SpellingAids::TakeIn takeIn);
 
   /// Runs `procedure` once when the window has been painted for the first time.
   void whenPainted(std::function<void()> procedure) { painted_ = std::move(procedure); }

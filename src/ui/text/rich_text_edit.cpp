@@ -143,6 +143,7 @@ void RichTextEdit::wheelEvent(QWheelEvent* event) {
 
 void RichTextEdit::paintEvent(QPaintEvent* event) {
   QTextEdit::paintEvent(event);
+  if (overlay_) overlay_(event->rect());
   const QTextBlock line = textCursor().block();
   const bool isComposing = !line.layout()->preeditAreaText().isEmpty();
   if (!document()->isEmpty() || isComposing || alignmentOf(line.blockFormat()) != base::Alignment::left) return;

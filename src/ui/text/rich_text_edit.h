@@ -10,6 +10,7 @@
 #include <QTextEdit>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "base/document.h"
@@ -57,6 +58,9 @@ class RichTextEdit : public QTextEdit {
   [[nodiscard]] int zoom() const { return zoom_.percent(); }
   void setZoom(int percent);
   void zoomBySteps(int steps) { setZoom(zoom_.stepped(steps)); }
+
+  /// What is painted over the text, of the view's area that is painted anew.
+  void setOverlay(std::function<void(const QRect& area)> overlay) { overlay_ = std::move(overlay); }
 
   /// From now on somebody else's commands answer the keys of cutting, copying, pasting, selecting all, undoing,
   /// redoing and deleting a selection: where these are disabled, the keys do nothing.
@@ -117,6 +121,7 @@ class RichTextEdit : public QTextEdit {
   QTextCharFormat lastFormat_;
   bool leavesKeys_ = false;
   QString hint_;
+  std::function<void(const QRect&)> overlay_;
   bool wasEmpty_ = true;
   ViewZoom zoom_{*this};
   int wheelTurn_ = 0;  // what has not yet made a whole step, in eighths of a degree
