@@ -160,6 +160,11 @@ struct Picture : Control {
   bool operator==(const Picture&) const = default;
 };
 
+/// A part of a window that comes and goes with all that is on it.
+struct Panel : Control {
+  bool operator==(const Panel&) const = default;
+};
+
 struct ProgressBar : Control {
   int minimum = 0;
   int maximum = 100;

@@ -25,6 +25,7 @@ enum class Event {
   selected,     // the selection of a text, or the current or marked rows of a list box, moved
   released,     // a key or the mouse button was let go in a text
   keyEnter,     // the keys that have a meaning of their own
+  keyShiftEnter,
   keyInsert,
   keyDelete,
   keyEscape,

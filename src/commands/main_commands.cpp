@@ -5,6 +5,7 @@
 #include "calc/adjustments.h"
 #include "calc/price_database.h"
 #include "commands/file_commands.h"
+#include "commands/find_commands.h"
 #include "commands/format_commands.h"
 #include "commands/running_sum_commands.h"
 #include "commands/spelling_commands.h"
@@ -147,6 +148,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireFiles(wiring, parts);
   wireUndo(wiring, parts);
   wireSpelling(wiring, parts);
+  wireFind(wiring, parts);
   wireProgram(wiring, parts);
   wireHeightAndQuantity(wiring, parts);
   wireAdjustmentLists(wiring, parts);

@@ -8,6 +8,7 @@
 #include "calc/calc.h"
 #include "calc/picker.h"
 #include "editor/container.h"
+#include "editor/find_bar.h"
 #include "editor/open_document.h"
 #include "editor/spelling_dialog.h"
 #include "editor/undo_store.h"
@@ -26,6 +27,7 @@ struct MainParts {
   frame::CalcResults& results;
   editor::OpenDocument& document;
   editor::UndoStore& undo;
+  editor::FindBar& find;
   frame::WaitWindow& wait;
   calc::PickerWindow& picker;
   editor::ContainerWindow& container;

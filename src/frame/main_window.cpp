@@ -18,6 +18,9 @@ MainWindow::MainWindow() : Window("frmMain") {
     label->text = "nur Markierung";
     label->visible = false;
   }
+  lblKeinTreffer.text = "kein Treffer";
+  lblKeinTreffer.visible = pnlSuche.visible = pnlErsetzen.visible = false;
+  for (base::Button* button : {&cmdWeiter, &cmdZurück, &cmdErsetzen, &cmdAlleErsetzen}) button->enabled = false;
   mnuUndo.enabled = mnuRedo.enabled = false;
   lblRCalc.text = "0.00 EUR";
 }

@@ -13,6 +13,19 @@ namespace frame {
 #define TESSIK_MAIN_WINDOW_CONTROLS(CONTROL)                                                   \
   /* the lettering: height, quantity, typeface */                                              \
   CONTROL(base::RichTextBox, rtfText)                                                          \
+  /* the bar of find and replace; it comes before what is on it, so that can take the focus */ \
+  CONTROL(base::Panel, pnlSuche)                                                               \
+  CONTROL(base::Panel, pnlErsetzen)                                                            \
+  CONTROL(base::TextBox, txtSuche)                                                             \
+  CONTROL(base::Label, lblTreffer)               /* "3 von 12", and what else there is to tell */ \
+  CONTROL(base::Label, lblKeinTreffer)                                                         \
+  CONTROL(base::Button, cmdZurück)                                                             \
+  CONTROL(base::Button, cmdWeiter)                                                             \
+  CONTROL(base::Button, cmdSucheZu)                                                            \
+  CONTROL(base::TextBox, txtErsetzen)                                                          \
+  CONTROL(base::Button, cmdErsetzen)                                                           \
+  CONTROL(base::Button, cmdAlleErsetzen)                                                       \
+  /* its format */                                                                             \
   CONTROL(base::ComboBox, cboFontSelect)                                                       \
   CONTROL(base::ComboBox, cboFontSize)                                                         \
   CONTROL(base::ToggleButton, cmdFett)                                                         \
@@ -98,13 +111,18 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuDelete)                                                          \
   CONTROL(base::MenuEntry, mnuMarkAll)                                                         \
   CONTROL(base::MenuEntry, mnuRechtschreibung)                                                 \
+  CONTROL(base::MenuEntry, mnuSuchen)                                                          \
+  CONTROL(base::MenuEntry, mnuWeitersuchen)                                                    \
+  CONTROL(base::MenuEntry, mnuZurücksuchen)                                                    \
+  CONTROL(base::MenuEntry, mnuErsetzen)                                                        \
   CONTROL(base::MenuEntry, mnuInfo)                                                            \
   /* the status line */                                                                        \
   CONTROL(base::Label, lblZeile)                 /* format at the caret, line and column */    \
   CONTROL(base::Label, lblZusatz)                /* the piece addition, while there is one */  \
   CONTROL(base::Label, lblHinweis)               /* what the program has to tell by the way */ \
   CONTROL(base::Timer, tmrLoad)                                                                \
-  CONTROL(base::Timer, tmrSicherung)             /* looks whether the recovery copy is behind */
+  CONTROL(base::Timer, tmrSicherung)             /* looks whether the recovery copy is behind */ \
+  CONTROL(base::Timer, tmrSuche)                 /* looks whether the hits are, while their bar is open */
 // clang-format on
 
 /// The colours of the totals, which stand on black.

@@ -20,6 +20,7 @@ commands::MainParts partsOf(Program& program) {
           .results = program.results,
           .document = program.document,
           .undo = program.undo,
+          .find = program.find,
           .wait = program.windows.wait,
           .picker = program.windows.picker,
           .container = program.windows.container,

@@ -6,6 +6,7 @@
 
 #include "base/wiring.h"
 #include "commands/main_commands.h"
+#include "editor/find_bar.h"
 #include "editor/recovery.h"
 #include "editor/spelling.h"
 #include "editor/undo_store.h"
@@ -35,6 +36,7 @@ struct Program {
   Windows windows = {};
   editor::UndoStore undo{windows.main.rtfText, settings.user.undoDepth};
   editor::UndoStore containerUndo{windows.container.rtfTextC, settings.user.undoDepth};
+  editor::FindBar find = {};
   base::Wiring wiring = {};
 
   Program(const Program&) = delete;

@@ -104,7 +104,11 @@ std::unique_ptr<Binding> makeBinding(base::Tabs& model, QObject& shown, const Co
 }
 
 std::unique_ptr<Binding> makeBinding(base::Picture& model, QObject& shown, const Context& context) {
-  return bindingTo<PictureBinding, QWidget>(model, shown, context);
+  return bindingTo<PresenceBinding, QWidget>(model, shown, context);
+}
+
+std::unique_ptr<Binding> makeBinding(base::Panel& model, QObject& shown, const Context& context) {
+  return bindingTo<PresenceBinding, QWidget>(model, shown, context);
 }
 
 std::unique_ptr<Binding> makeBinding(base::RichTextBox& model, QObject& shown, const Context& context) {

@@ -37,6 +37,7 @@ std::unique_ptr<Binding> makeBinding(base::Menu& model, QObject& shown, const Co
 std::unique_ptr<Binding> makeBinding(base::ProgressBar& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::Tabs& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::Picture& model, QObject& shown, const Context& context);
+std::unique_ptr<Binding> makeBinding(base::Panel& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::RichTextBox& model, QObject& shown, const Context& context);
 
 /// The bindings of one window. Belongs to the form and dies with it; the model, the wiring, the gate and the sync

@@ -16,7 +16,10 @@ using base::Event;
 
 /// The event of a key that has a meaning of its own. With a modifier it has another one: Shift+Insert pastes.
 std::optional<Event> eventOf(const QKeyEvent& key) {
-  if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return std::nullopt;
+  const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
+  const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+  if (isEnter && modifiers == Qt::ShiftModifier) return Event::keyShiftEnter;
+  if (modifiers != Qt::NoModifier) return std::nullopt;
   switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:

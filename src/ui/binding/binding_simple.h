@@ -79,10 +79,10 @@ class TabsBinding : public BindingOf<base::Tabs, QTabWidget> {
   Shown<int> current_;
 };
 
-/// What is only there or not.
-class PictureBinding : public BindingOf<base::Picture, QWidget> {
+/// What is only there or not: a picture, a panel.
+class PresenceBinding : public BindingOf<base::Control, QWidget> {
  public:
-  PictureBinding(base::Picture& model, QWidget& widget, const Context& context) : BindingOf(model, widget, context) {}
+  PresenceBinding(base::Control& model, QWidget& widget, const Context& context) : BindingOf(model, widget, context) {}
 
  private:
   void carryOwn() override {}

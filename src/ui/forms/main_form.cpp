@@ -41,16 +41,19 @@ void moveFormatIntoToolBar(const Ui::MainWindowForm& drawn) {
   bar.addActions({drawn.mnuLinks, drawn.mnuZentriert, drawn.mnuRechts});
 }
 
-// A word on a colour of its own, which can be read in either palette and keeps its place while it is hidden.
-void makeSign(QLabel& word) {
+enum class WhenHidden { keepsPlace, leavesPlace };
+
+// A word on a colour of its own, which can be read in either palette.
+void makeSign(QLabel& word, WhenHidden whenHidden) {
   word.setStyleSheet(QStringLiteral("background: #ffb300; color: black; border-radius: 3px; padding: 0 4px;"));
   QSizePolicy policy(QSizePolicy::Maximum, QSizePolicy::Maximum);
-  policy.setRetainSizeWhenHidden(true);
+  policy.setRetainSizeWhenHidden(whenHidden == WhenHidden::keepsPlace);
   word.setSizePolicy(policy);
 }
 
 void furnishPanel(const Ui::MainWindowForm& drawn) {
-  for (QLabel* const word : {drawn.lblMarkierung, drawn.lblMarkierungZeichen}) makeSign(*word);
+  for (QLabel* const word : {drawn.lblMarkierung, drawn.lblMarkierungZeichen}) makeSign(*word, WhenHidden::keepsPlace);
+  makeSign(*drawn.lblKeinTreffer, WhenHidden::leavesPlace);
   for (QLabel* const aside : std::initializer_list<QLabel*>{drawn.fixProzent, drawn.fixBetrag, drawn.fixFolge,
                                                             drawn.lblcboChange1, drawn.lblcboChange2}) {
     aside->setForegroundRole(QPalette::PlaceholderText);
