@@ -18,7 +18,6 @@ std::string inOneLine(std::string_view text) {
 
 void setSought(frame::MainWindow& window, FindBar& bar, std::string sought) {
   bar.sought = std::move(sought);
-  bar.offer.reset();
   for (base::Button* const button :
        {&window.cmdWeiter, &window.cmdZurück, &window.cmdErsetzen, &window.cmdAlleErsetzen}) {
     button->enabled = !bar.sought.empty();
@@ -31,18 +30,21 @@ std::string hitsText(const FindBar& bar) {
   return count + " Treffer";
 }
 
-void tell(frame::MainWindow& window, std::string text, std::string toolTip = {}) {
+void tell(frame::MainWindow& window, std::string text) {
   window.lblTreffer.text = std::move(text);
-  window.lblTreffer.toolTip = std::move(toolTip);
+  window.lblTreffer.visible = true;
+  window.lblKeinTreffer.visible = window.lblSuchangebot.visible = false;
 }
 
 // Looks and tells which hit is selected of how many.
 void showHits(frame::MainWindow& window, FindBar& bar) {
   bar.shown = window.rtfText.selection();
-  const bool isSeeking = !bar.sought.empty();
-  if (isSeeking) bar.hits.look(window.rtfText, bar.sought);
-  window.lblKeinTreffer.visible = isSeeking && bar.hits.count() == 0;
-  tell(window, isSeeking && bar.hits.count() > 0 ? hitsText(bar) : std::string());
+  bar.offer.reset();
+  if (bar.sought.empty()) return tell(window, {});
+  bar.hits.look(window.rtfText, bar.sought);
+  tell(window, hitsText(bar));
+  window.lblKeinTreffer.visible = bar.hits.count() == 0;
+  window.lblTreffer.visible = bar.hits.count() > 0;
 }
 
 void show(frame::MainWindow& window, FindBar& bar) {
@@ -68,11 +70,10 @@ void focusAndMark(base::TextBox& box) { box.wantsFocus = box.wantsSelectAll = tr
 void offerOtherEnd(frame::MainWindow& window, FindBar& bar, const FindBar::Offer& offer) {
   show(window, bar);
   bar.offer = offer;
-  offer.direction == Direction::forwards
-      ? tell(window, "Textende – nochmals: vom Anfang",
-             "Bis zum Ende des Textes steht kein Treffer mehr.\nEingabetaste oder F3 sucht vom Anfang weiter.")
-      : tell(window, "Textanfang – nochmals: vom Ende",
-             "Bis zum Anfang des Textes steht kein Treffer mehr.\nUmschalt+F3 sucht vom Ende weiter.");
+  window.lblSuchangebot.visible = true;
+  window.lblSuchangebot.text = offer.direction == Direction::forwards
+                                   ? "Ende des Textes – F3 sucht vom Anfang weiter"
+                                   : "Textanfang – Umschalt+F3 sucht vom Ende weiter";
 }
 
 std::optional<base::TextSelection> nextHit(const FindBar& bar, const FindBar::Offer& present, bool goesOnAtOtherEnd) {
@@ -105,7 +106,6 @@ void closeFind(frame::MainWindow& window, FindBar& bar) {
   window.pnlSuche.visible = window.pnlErsetzen.visible = false;
   window.tmrSuche.running = false;
   bar.hits.forget();
-  bar.offer.reset();
   window.rtfText.wantsFocus = true;
 }
 
@@ -143,9 +143,7 @@ void replaceAllHits(frame::MainWindow& window, FindBar& bar) {
   if (count == 0) return showHits(window, bar);
   text.select(bar.hits.span());
   text.replaceSelection(replacedIn(text.selectedDocument(), bar.sought, inOneLine(window.txtErsetzen.text)));
-  bar.offer.reset();
   showHits(window, bar);
-  window.lblKeinTreffer.visible = false;
   tell(window, std::to_string(count) + " ersetzt");
 }
 

@@ -19,7 +19,7 @@ MainWindow::MainWindow() : Window("frmMain") {
     label->visible = false;
   }
   lblKeinTreffer.text = "kein Treffer";
-  lblKeinTreffer.visible = pnlSuche.visible = pnlErsetzen.visible = false;
+  lblKeinTreffer.visible = lblSuchangebot.visible = pnlSuche.visible = pnlErsetzen.visible = false;
   for (base::Button* button : {&cmdWeiter, &cmdZurück, &cmdErsetzen, &cmdAlleErsetzen}) button->enabled = false;
   mnuUndo.enabled = mnuRedo.enabled = false;
   lblRCalc.text = "0.00 EUR";

@@ -13,11 +13,12 @@ namespace frame {
 #define TESSIK_MAIN_WINDOW_CONTROLS(CONTROL)                                                   \
   /* the lettering: height, quantity, typeface */                                              \
   CONTROL(base::RichTextBox, rtfText)                                                          \
-  /* the bar of find and replace; it comes before what is on it, so that can take the focus */ \
+  /* the bar of find and replace, which is shown before what is on it takes the focus */       \
   CONTROL(base::Panel, pnlSuche)                                                               \
   CONTROL(base::Panel, pnlErsetzen)                                                            \
   CONTROL(base::TextBox, txtSuche)                                                             \
-  CONTROL(base::Label, lblTreffer)               /* "3 von 12", and what else there is to tell */ \
+  CONTROL(base::Label, lblTreffer)               /* "3 von 12" */                              \
+  CONTROL(base::Label, lblSuchangebot)           /* to go on at the other end of the text */   \
   CONTROL(base::Label, lblKeinTreffer)                                                         \
   CONTROL(base::Button, cmdZurück)                                                             \
   CONTROL(base::Button, cmdWeiter)                                                             \

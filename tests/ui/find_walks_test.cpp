@@ -26,7 +26,7 @@ TEST(Walk, TextIsFoundFoundAgainAndLeftByKeys) {
   walk.press(Qt::Key_Return);
   EXPECT_EQ(walk.text("lblTreffer") + " " + walk.text("lblPreisNettoGesamt"), "3 von 3 2,00 EUR");
   walk.press(Qt::Key_Return);
-  EXPECT_EQ(walk.text("lblTreffer"), "Textende – nochmals: vom Anfang");
+  EXPECT_EQ(walk.text("lblSuchangebot"), "Ende des Textes – F3 sucht vom Anfang weiter");
   walk.press(Qt::Key_F3);
   EXPECT_EQ(walk.text("lblTreffer") + " " + selected(walk), "1 von 3 Au");
   walk.press(Qt::Key_Escape);
