@@ -22,6 +22,13 @@ void find(const MainParts& parts) {
   calculate(parts);
 }
 
+// A long text takes its time.
+void replaceAll(const MainParts& parts) {
+  parts.platform.setHourglass(base::Hourglass::on);
+  priced<editor::replaceAllHits>(parts);
+  parts.platform.setHourglass(base::Hourglass::off);
+}
+
 struct Trigger {
   const base::Control& control;
   Event event;
@@ -33,7 +40,6 @@ void wireSteps(base::Wiring& wiring, const MainParts& parts) {
   constexpr auto next = find<Direction::forwards>;
   constexpr auto previous = find<Direction::backwards>;
   constexpr auto replace = priced<editor::replaceHit>;
-  constexpr auto replaceAll = priced<editor::replaceAllHits>;
   const frame::MainWindow& window = parts.window;
   for (const Trigger& each : {
            Trigger{window.mnuWeitersuchen, Event::click, "MAIN-mnuWeitersuchen_Click", next},
