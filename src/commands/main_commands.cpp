@@ -7,6 +7,7 @@
 #include "commands/file_commands.h"
 #include "commands/find_commands.h"
 #include "commands/format_commands.h"
+#include "commands/note_commands.h"
 #include "commands/running_sum_commands.h"
 #include "commands/spelling_commands.h"
 #include "commands/undo_commands.h"
@@ -154,6 +155,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireAdjustmentLists(wiring, parts);
   wireAmountBoxes(wiring, parts);
   wireRunningSum(wiring, parts);
+  wireNote(wiring, parts);
 }
 
 }  // namespace commands

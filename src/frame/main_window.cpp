@@ -1,6 +1,8 @@
 // What the main window shows before anything is typed.
 #include "frame/main_window.h"
 
+#include <initializer_list>
+
 namespace frame {
 
 MainWindow::MainWindow() : Window("frmMain") {
@@ -22,6 +24,10 @@ MainWindow::MainWindow() : Window("frmMain") {
   lblKeinTreffer.visible = lblSuchangebot.visible = pnlSuche.visible = pnlErsetzen.visible = false;
   for (base::Button* button : {&cmdWeiter, &cmdZurück, &cmdErsetzen, &cmdAlleErsetzen}) button->enabled = false;
   mnuUndo.enabled = mnuRedo.enabled = false;
+  for (base::Control* look :
+       std::initializer_list<base::Control*>{&cmdContainerLook, &mnuContainerLook, &mnuContainerClear}) {
+    look->enabled = false;
+  }
   lblRCalc.text = "0.00 EUR";
 }
 

@@ -93,6 +93,12 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuOldPrice)                                                        \
   CONTROL(base::MenuEntry, mnuCalcAddToPrice)                                                  \
   CONTROL(base::MenuEntry, mnuCalcClear)                                                       \
+  /* the offer note and the container it goes to */                                            \
+  CONTROL(base::Button, cmdNotiz)                                                              \
+  CONTROL(base::Button, cmdContainerLook)                                                      \
+  CONTROL(base::MenuEntry, mnuNotiz)                                                           \
+  CONTROL(base::MenuEntry, mnuContainerLook)                                                   \
+  CONTROL(base::MenuEntry, mnuContainerClear)                                                  \
   /* the menus */                                                                              \
   CONTROL(base::MenuEntry, mnuNeu)                                                             \
   CONTROL(base::MenuEntry, mnuOpen)                                                            \

@@ -31,6 +31,7 @@ Berechnet den Preis einer Beschriftung und gibt ihn als Tabelle aus. Es wird nur
   --einheit TEXT           Maßeinheit statt der gespeicherten
   --leerzeichen 0|1        Leerzeichen mitzählen (1) oder nicht (0)
   --json                   Ausgabe als JSON-Objekt
+  --notiz                  Ausgabe als Angebotsnotiz, wie sie der Text-Container aufnimmt
   --help, --version        diese Hilfe, die Version
 
 Ende mit 0, bei einem Fehler mit 1, bei falschen Argumenten mit 2.
@@ -77,6 +78,7 @@ constexpr std::array kNumberOptions = {
 
 constexpr std::array kSwitches = {
     Switch{"--json", &PriceRequest::json},
+    Switch{"--notiz", &PriceRequest::note},
     Switch{"--help", &PriceRequest::help},
     Switch{"--version", &PriceRequest::version},
 };
@@ -148,6 +150,7 @@ void exclude(const First& first, const Second& second, std::string_view names) {
 
 PriceRequest parseArguments(std::span<const std::string> arguments) {
   PriceRequest request = Reader(arguments).read();
+  exclude(request.json, request.note, "--json oder --notiz");
   exclude(request.text, request.file, "--text oder --datei");
   exclude(request.height, request.heightIndex, "--hoehe oder --hoehe-nr");
   exclude(request.surchargePercentage, request.surchargeAmount, "--aufpreis-prozent oder --aufpreis-betrag");

@@ -13,6 +13,7 @@ struct PriceRequest {
   bool help = false;
   bool version = false;
   bool json = false;
+  bool note = false;  // the offer note instead of the table
   std::optional<std::string> programDirectory;
   std::optional<std::string> text;
   std::optional<std::string> file;

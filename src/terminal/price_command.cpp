@@ -22,6 +22,7 @@
 #include "base/text.h"
 #include "base/version.h"
 #include "calc/adjustments.h"
+#include "calc/offer_note.h"
 #include "calc/price_database.h"
 #include "editor/rtf_reader.h"
 #include "lifecycle/assembly.h"
@@ -201,6 +202,7 @@ std::string price(const PriceRequest& request, const Streams& streams) {
   calculate(parts);
   typeAmounts(program.wiring, parts.window, request);
   if (platform.message()) throw base::Failure(base::ErrorNumber::none, platform.message()->text);
+  if (request.note) return base::plainText(calc::offerNote(parts.window, parts.settings.rates.unit));
   return request.json ? json(parts.window) : table(parts.window);
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "support/desk.h"
 #include "support/temporary_directory.h"
 
 namespace {
@@ -57,6 +58,29 @@ TEST_F(PriceCommand, PricesWithTheStoredSettings) {
             "Bruttopreis gesamt              43,50 EUR\n"
             "Nettopreis in DM                 73,34 DM\n"
             "Bruttopreis in DM                85,08 DM\n");
+}
+
+TEST_F(PriceCommand, PrintsTheNoteThatTheContainerReceives) {
+  const Outcome outcome = run({"--text", "ABCDE\nFGHIJ", "--stueck", "3", "--notiz"});
+  EXPECT_EQ(outcome.out,
+            "\r\nZu Kalkulierender Text: \r\n\r\n\"ABCDE\r\nFGHIJ\"\r\n\r\n"
+            "Schriftart: \t\t\tArial\r\nTextlänge in Zeichen: \t\t10\r\nTexthöhe in cm: \t\t\t50 cm\r\n"
+            "Einzelpreis pro Zeichen netto: \t1,25 EUR\r\nEinzelpreis pro Zeichen brutto: \t1,45 EUR\r\n"
+            "Stückzahl (Schriftzüge): \t\t3\r\nEinzelpreis Netto: \t\t\t12,50 EUR\r\n"
+            "Nettopreis * 3 Stück: \t\t37,50 EUR\r\nAufpreis/Rabatt: \t\t\t0,00 EUR\r\n"
+            "Nettopreis Gesamt:   \t\t37,50 EUR\r\nMwst. in %: \t\t\t16 %\r\nMwst. Anteil: \t\t\t6,00 EUR\r\n"
+            "Bruttopreis Gesamt: \t\t43,50 EUR\r\n\r\n\r\n\r\n" +
+                std::string(125, '-') + "\r\n\r\n");
+  support::Desk desk;
+  desk.program.settings.rates.unit = "cm";
+  desk.type(desk.window.txtStück, "3");
+  desk.offerHeights({{"50", "1,25"}});
+  desk.write("ABCDE\nFGHIJ");
+  desk.click(desk.window.mnuNotiz);
+  const base::Document received = desk.program.windows.container.rtfTextC.document();
+  EXPECT_EQ(base::plainText(received), outcome.out);
+  const auto formatOf = [&](std::size_t i) { return received.formats[received.paragraphs[i].runs.front().format]; };
+  EXPECT_TRUE(formatOf(4).bold && !formatOf(6).bold && formatOf(22).underline);
 }
 
 TEST_F(PriceCommand, EveryOptionReachesThePrice) {
@@ -115,6 +139,7 @@ TEST_F(PriceCommand, TellsWrongArgumentsFromFailures) {
       {{"--text"}, 2, "Nach --text fehlt der Wert"},
       {{"--text", "a", "--text", "b"}, 2, "--text steht zweimal da"},
       {{"--text", "a", "--datei", "-"}, 2, "--text oder --datei"},
+      {{"--json", "--notiz"}, 2, "--json oder --notiz"},
       {{"--hoehe", "7"}, 2, "keine Buchstabenhöhe \"7\""},
       {{"--hoehe-nr", "2"}, 2, "keine Buchstabenhöhe Nr. 2"},
       {{"--hoehe-nr", "x"}, 2, "verlangt eine ganze Zahl"},

@@ -1,8 +1,9 @@
-// Walks through the running sum, keys and clicks alone.
+// Walks through the running sum and the offer note, keys and clicks alone.
 #include <gtest/gtest.h>
 
 #include <QContextMenuEvent>
 #include <QListView>
+#include <QToolBar>
 #include <string>
 
 #include "walk.h"
@@ -24,6 +25,11 @@ struct SumWalk : Walk {
   }
   void clickEntry(int row, Qt::MouseButton button, Qt::KeyboardModifiers modifiers = {}) {
     QTest::mouseClick(list.viewport(), button, modifiers, list.visualRect(list.model()->index(row, 0)).center());
+    settle();
+  }
+  void clickInBar(const char* name) {
+    auto* const action = desktop->mainForm().findChild<QAction*>(name);
+    QTest::mouseClick(widget<QToolBar>("fixLeiste").widgetForAction(action), Qt::LeftButton);
     settle();
   }
 
@@ -75,6 +81,31 @@ TEST(Walk, SumsAreCollectedMarkedAddedToThePriceAndRemoved) {
   walk.settle();
   EXPECT_EQ(walk.widget<QWidget>("lblRCalc").toolTip(), "Gesamtsumme des Rechners: 0,00 EUR");
   walk.close();
+}
+
+TEST(Walk, NotesGatherInTheContainerUntilItIsEmptied) {
+  const Shop shop;
+  SumWalk walk(shop);
+  const auto& container = walk.desktop->program().windows.container;
+  walk.type("Brot Eis");
+  walk.click("txtStück");
+  walk.clickInBar("cmdNotiz");
+  EXPECT_EQ(Walk::focus(), "rtfText");
+  const std::string whole = container.rtfTextC.plainText();
+  walk.press(Qt::Key_Left, Qt::ShiftModifier);
+  walk.press(Qt::Key_O, Qt::AltModifier);
+  walk.press(Qt::Key_T);
+  const std::string both = container.rtfTextC.plainText();
+  EXPECT_EQ(both.find(whole + "\r\nZu Kalkulierender Text: \r\n\r\n\"s\"\r\n"), 0U);
+  for (const auto& [answer, left] : {std::pair(QMessageBox::No, both), {QMessageBox::Yes, ""}}) {
+    walk.expectBox("Sind Sie sicher das Sie den Text-Container löschen möchten?", answer);
+    walk.press(Qt::Key_O, Qt::AltModifier);
+    walk.press(Qt::Key_L);
+    EXPECT_EQ(container.rtfTextC.plainText(), left);
+  }
+  walk.clickInBar("cmdContainerLook");
+  EXPECT_TRUE(container.isOpen);
+  walk.leave();
 }
 
 }  // namespace

@@ -1,0 +1,62 @@
+// The offer note into the text container, and what the main window does with that container.
+#include "commands/note_commands.h"
+
+#include "calc/offer_note.h"
+#include "editor/editing.h"
+
+namespace commands {
+namespace {
+
+using base::Event;
+
+base::Document note(const MainParts& parts) { return calc::offerNote(parts.window, parts.settings.rates.unit); }
+
+void append(const MainParts& parts, const base::Document& block) {
+  {
+    const editor::UndoStore::Group step(parts.containerUndo);
+    editor::appendToContainer(parts.container.rtfTextC, block);
+  }
+  frame::MainWindow& window = parts.window;
+  window.cmdContainerLook.enabled = window.mnuContainerLook.enabled = window.mnuContainerClear.enabled = true;
+  window.rtfText.wantsFocus = true;
+}
+
+void appendNote(const MainParts& parts) { append(parts, note(parts)); }
+
+void appendNoteBusily(const MainParts& parts) {
+  constexpr int kWhole = 100;
+  const frame::Waiting waiting(parts.wait, parts.platform, "Die Notiz kommt in den Container …", kWhole);
+  parts.wait.Progress1.value = kWhole - 1;
+  const base::Document block = note(parts);
+  parts.platform.refresh();
+  append(parts, block);
+}
+
+void showContainer(const MainParts& parts) { parts.platform.show(parts.container); }
+
+void clearContainer(const MainParts& parts) {
+  const base::MessageAnswer answer =
+      parts.platform.messageBox({.text = "Sind Sie sicher das Sie den Text-Container löschen möchten?",
+                                 .title = "Container löschen",
+                                 .buttons = base::MessageButtons::yesNo});
+  if (answer != base::MessageAnswer::yes) return;
+  const editor::UndoStore::Group step(parts.containerUndo);
+  editor::selectAll(parts.container.rtfTextC);
+  parts.container.rtfTextC.replaceSelection(base::Document());
+}
+
+}  // namespace
+
+void wireNote(base::Wiring& wiring, const MainParts& parts) {
+  const auto command = [&](const base::Control& control, std::string_view tag, void (*run)(const MainParts&)) {
+    wiring.on(control, Event::click, reported(parts, tag, run));
+  };
+  const frame::MainWindow& window = parts.window;
+  command(window.cmdNotiz, "MAIN-cmdNotiz_Click", appendNoteBusily);
+  command(window.mnuNotiz, "MAIN-mnuNptiz_Click", appendNote);
+  command(window.cmdContainerLook, "MAIN-cmdContainerLook_Click", showContainer);
+  command(window.mnuContainerLook, "MAIN-mnuContainerLook_Click", showContainer);
+  command(window.mnuContainerClear, "MAIN-cmdContainerClear_Click", clearContainer);
+}
+
+}  // namespace commands
