@@ -20,8 +20,8 @@ constexpr bool kGoesOn = false;
 constexpr bool kDocumentAlone = false;
 
 struct Command {
-  QAction* EditActions::*action;
-  void (*ofLine)(QLineEdit& line);
+  QAction* EditActions::*action = nullptr;
+  void (*ofLine)(QLineEdit& line) = nullptr;
   bool beginsPart = false;  // of a context menu
   bool isForLines = true;   // offered in their context menus
 };
