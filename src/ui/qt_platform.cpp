@@ -92,9 +92,8 @@ base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
   if (isUnattended_) return answer(0, message.buttons);
   const Gate::ModalWait wait(gate_);
   setProgramIcon();
-  QMessageBox box(icon(message.icon), toQString(message.title),
-                  toQString(message.text).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n'),
-                  buttons(message.buttons), QApplication::activeWindow());
+  QMessageBox box(icon(message.icon), toQString(message.title), inShownLines(message.text), buttons(message.buttons),
+                  QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   return answer(box.exec(), message.buttons);
 }

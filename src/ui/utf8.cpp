@@ -19,4 +19,8 @@ QString toQString(std::string_view utf8) {
 
 std::string toUtf8(QStringView text) { return text.toUtf8().toStdString(); }
 
+QString inShownLines(std::string_view utf8) {
+  return toQString(utf8).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n');
+}
+
 }  // namespace ui

@@ -12,5 +12,7 @@ namespace ui {
 
 QString toQString(std::string_view utf8);
 std::string toUtf8(QStringView text);
+/// For display: line ends of any kind become those that labels and boxes break at.
+QString inShownLines(std::string_view utf8);
 
 }  // namespace ui

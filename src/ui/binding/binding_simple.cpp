@@ -48,7 +48,7 @@ LabelBinding::LabelBinding(base::Label& model, QLabel& widget, const Context& co
 }
 
 void LabelBinding::carryOwn() {
-  if (text_.follow(model_.text)) widget_.setText(toQString(model_.text));
+  if (text_.follow(model_.text)) widget_.setText(inShownLines(model_.text));
   if (colour_.follow(model_.colour)) showColour();
 }
 

@@ -44,12 +44,18 @@ bool isEscape(const QEvent& event) {
   return event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
+// An Esc that ended long work and is still down shall not close the window behind that.
+bool isHeldEscape(const QEvent& event) {
+  return isEscape(event) && static_cast<const QKeyEvent&>(event).isAutoRepeat();
+}
+
 }  // namespace
 
 InputFilter::InputFilter(const Gate& gate) : gate_(gate) { QCoreApplication::instance()->installEventFilter(this); }
 
 bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
   const bool followsHeld = isRelease(event->type()) && !held_.empty();
+  if (escapePressed_ && isHeldEscape(*event)) return true;
   if (gate_.isOpen() || gate_.isWriting() || !(isInput(event->type()) || followsHeld)) return false;
   // A widget that closes is closed by the program; the person closes windows.
   if (event->type() == QEvent::Close && !watched->isWindowType()) return false;
