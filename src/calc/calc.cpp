@@ -155,7 +155,9 @@ void enableInputs(Run& run) {
   enable({&w.txtProzent, &w.txtRabatt, &w.txtProzentDM, &w.txtRabattDM, &w.cboAufpreis, &w.cboRabatt,
           &w.cmdAufpreisListe, &w.cmdRabatteListe},
          hasText && run.pricePerCharacter > 0);
-  enable({&w.mnuSave, &w.cmdSave, &w.mnuCut, &w.mnuCopy, &w.mnuCopyAll, &w.mnuDelete, &w.mnuMarkAll}, hasText);
+  enable({&w.mnuSave, &w.cmdSave, &w.mnuCut, &w.mnuCopy, &w.mnuCopyAll, &w.mnuDelete, &w.mnuMarkAll, &w.mnuSort},
+         hasText);
+  w.mnuLeerzeilen.enabled = run.parts.document.countAll() != base::TextCount{};  // blank lines cost nothing
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "commands/format_commands.h"
 #include "commands/note_commands.h"
 #include "commands/running_sum_commands.h"
+#include "commands/sort_commands.h"
 #include "commands/spelling_commands.h"
 #include "commands/undo_commands.h"
 #include "editor/editing.h"
@@ -150,6 +151,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireUndo(wiring, parts);
   wireSpelling(wiring, parts);
   wireFind(wiring, parts);
+  wireSorting(wiring, parts);
   wireProgram(wiring, parts);
   wireHeightAndQuantity(wiring, parts);
   wireAdjustmentLists(wiring, parts);

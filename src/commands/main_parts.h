@@ -10,6 +10,7 @@
 #include "editor/container.h"
 #include "editor/find_bar.h"
 #include "editor/open_document.h"
+#include "editor/sort_window.h"
 #include "editor/spelling_dialog.h"
 #include "editor/undo_store.h"
 #include "errors/reporting.h"
@@ -34,6 +35,7 @@ struct MainParts {
   editor::UndoStore& containerUndo;
   editor::SpellingWindow& spellingWindow;
   editor::Spelling& spelling;
+  editor::SortWindow& sort;
   base::Platform& platform;
   errors::Reporter& reporter;
 };

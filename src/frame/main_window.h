@@ -122,6 +122,8 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuWeitersuchen)                                                    \
   CONTROL(base::MenuEntry, mnuZurücksuchen)                                                    \
   CONTROL(base::MenuEntry, mnuErsetzen)                                                        \
+  CONTROL(base::MenuEntry, mnuSort)                                                            \
+  CONTROL(base::MenuEntry, mnuLeerzeilen)                                                      \
   CONTROL(base::MenuEntry, mnuInfo)                                                            \
   /* the status line */                                                                        \
   CONTROL(base::Label, lblZeile)                 /* format at the caret, line and column */    \

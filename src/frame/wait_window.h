@@ -1,7 +1,9 @@
 // The wait window: what long work tells while it runs. It comes to the screen only when there is something to wait for.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "base/controls.h"
 #include "base/platform.h"
@@ -31,6 +33,21 @@ class Waiting {
  private:
   WaitWindow& window_;
   base::Platform& platform_;
+};
+
+/// One phase of long work in the wait window: its name and how much of it is done, "Drucken [37%]", and `hint` behind
+/// that.
+class WaitPhase {
+ public:
+  WaitPhase(WaitWindow& window, std::string_view name, int whole, std::string_view hint = {});
+  void reached(int value);
+
+ private:
+  WaitWindow& window_;
+  std::string name_;
+  std::string hint_;
+  std::int64_t whole_;
+  std::int64_t shownPercent_ = -1;  // the text is made anew only when it changes
 };
 
 }  // namespace frame

@@ -17,6 +17,7 @@ void wire(Program& program) {
   commands::wireMainWindow(wiring, partsOf(program));
   editor::wireContainer(wiring, containerPartsOf(program));
   calc::wirePicker(wiring, program.windows.picker, program.platform);
+  editor::wireSort(wiring, program.windows.sort, program.platform, program.reporter);
   wiring.on(program.windows.main.tmrLoad, base::Event::tick, [&program] { loadBehindScreen(program); });
   wiring.on(program.windows.main.tmrSicherung, base::Event::tick, [&program] { keepRecoveryCopy(program); });
   wiring.on(program.windows.main, base::Event::closing, [&program] { unload(program); });

@@ -35,6 +35,7 @@ editor::ContainerParts containerPartsOf(Program& program) {
   return {.window = program.windows.container,
           .document = program.containerDocument,
           .undo = program.containerUndo,
+          .sort = program.windows.sort,
           .platform = program.platform,
           .reporter = program.reporter};
 }

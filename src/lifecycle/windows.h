@@ -5,6 +5,7 @@
 
 #include "calc/picker.h"
 #include "editor/container.h"
+#include "editor/sort_window.h"
 #include "editor/spelling_dialog.h"
 #include "frame/main_window.h"
 #include "frame/wait_window.h"
@@ -19,7 +20,8 @@ namespace lifecycle {
   WINDOW(frame::WaitWindow, wait)       \
   WINDOW(calc::PickerWindow, picker)    \
   WINDOW(editor::ContainerWindow, container) \
-  WINDOW(editor::SpellingWindow, spelling)
+  WINDOW(editor::SpellingWindow, spelling) \
+  WINDOW(editor::SortWindow, sort)
 // clang-format on
 
 #define TESSIK_DECLARE_WINDOW(Kind, name) Kind name;

@@ -13,6 +13,7 @@
 #include "ui/forms/main_form.h"
 #include "ui_loading.h"
 #include "ui_picker.h"
+#include "ui_sort.h"
 #include "ui_spelling.h"
 #include "ui_wait.h"
 
@@ -56,6 +57,7 @@ constexpr std::array kForms = {
     Form{"frmAuswahlAR", dialog<Ui::PickerForm, 64, 18>},
     Form{"frmContainer", container},
     Form{"frmRechtschreibung", dialog<Ui::SpellingForm, 70, 18>},
+    Form{"frmSort", dialog<Ui::SortForm, 72, 16>},
 };
 
 }  // namespace
