@@ -44,24 +44,30 @@ bool isEscape(const QEvent& event) {
   return event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
-// An Esc that ended long work and is still down shall not close the window behind that.
-bool isHeldEscape(const QEvent& event) {
-  return isEscape(event) && static_cast<const QKeyEvent&>(event).isAutoRepeat();
-}
-
 }  // namespace
 
 InputFilter::InputFilter(const Gate& gate) : gate_(gate) { QCoreApplication::instance()->installEventFilter(this); }
 
 bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
   const bool followsHeld = isRelease(event->type()) && !held_.empty();
-  if (escapePressed_ && isHeldEscape(*event)) return true;
+  if (isHeldEscape(*event)) return true;
   if (gate_.isOpen() || gate_.isWriting() || !(isInput(event->type()) || followsHeld)) return false;
   // A widget that closes is closed by the program; the person closes windows.
   if (event->type() == QEvent::Close && !watched->isWindowType()) return false;
   if (!gate_.isDropping() && !isOfTheMoment(event->type())) held_.emplace_back(watched, event->clone());
   drop(*event);
   return true;
+}
+
+// An Esc that ended long work and is still down shall not close the window behind that. A desktop that does not mark
+// repeated keys lets them go and presses them in the same moment.
+bool InputFilter::isHeldEscape(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress && event.type() != QEvent::KeyRelease) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  if (key.key() != Qt::Key_Escape) return false;
+  if (event.type() == QEvent::KeyRelease) escapeReleased_ = key.timestamp();
+  const bool isRepeated = key.isAutoRepeat() || (key.timestamp() != 0 && key.timestamp() == escapeReleased_);
+  return event.type() == QEvent::KeyPress && escapePressed_ && isRepeated;
 }
 
 void InputFilter::drop(QEvent& event) {

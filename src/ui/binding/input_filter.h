@@ -29,11 +29,13 @@ class InputFilter : public QObject {
 
  private:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  bool isHeldEscape(const QEvent& event);
   void drop(QEvent& event);
 
   const Gate& gate_;
   std::deque<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> held_;
   bool escapePressed_ = false;
+  quint64 escapeReleased_ = 0;  // the moment, as events tell it
   bool isReleasing_ = false;
 };
 
