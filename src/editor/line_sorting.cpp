@@ -46,7 +46,7 @@ class ShellSort {
     for (int j = place; j >= 0; j -= gap) {
       if (++comparisons_ % kComparisonsAQuestion == 0 && !goesOn_()) return false;
       std::string& line = lines_[static_cast<std::size_t>(j)];
-      std::string& later = lines_[static_cast<std::size_t>(j + gap)];
+      std::string& later = lines_[static_cast<std::size_t>(j) + static_cast<std::size_t>(gap)];
       if (isInOrder(line, later)) return true;
       std::swap(line, later);
       progress_.inner = j + 1;

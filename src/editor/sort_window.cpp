@@ -23,7 +23,7 @@ void invite(SortWindow& window) {
   window.lblInfo.text =
       "Bitte wählen Sie ob Aufsteigend oder Absteigend sortiert werden soll. ACHTUNG: Alle Formatierungen gehen bei "
       "diesem Vorgang verloren!!!";
-  enableButtons(window, true);
+  enableButtons(window, /*enabled=*/true);
 }
 
 // The time that the dialog sorts, with the hourglass; however it ends without a result, the person is asked again.
@@ -31,7 +31,7 @@ class Sorting {
  public:
   Sorting(SortWindow& window, base::Platform& platform) : window_(window), platform_(platform) {
     window.lblInfo.text = "Sortiere ... \rAbbruch mit Esc";
-    enableButtons(window, false);
+    enableButtons(window, /*enabled=*/false);
     showBars(window, static_cast<int>(window.lines.size()) - 1);
     platform.setHourglass(base::Hourglass::on);
   }
