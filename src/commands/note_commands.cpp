@@ -2,7 +2,7 @@
 #include "commands/note_commands.h"
 
 #include "calc/offer_note.h"
-#include "editor/editing.h"
+#include "editor/container.h"
 
 namespace commands {
 namespace {
@@ -12,10 +12,7 @@ using base::Event;
 base::Document note(const MainParts& parts) { return calc::offerNote(parts.window, parts.settings.rates.unit); }
 
 void append(const MainParts& parts, const base::Document& block) {
-  {
-    const editor::UndoStore::Group step(parts.containerUndo);
-    editor::appendToContainer(parts.container.rtfTextC, block);
-  }
+  editor::appendToContainer(parts.container, parts.containerUndo, block);
   frame::MainWindow& window = parts.window;
   window.cmdContainerLook.enabled = window.mnuContainerLook.enabled = window.mnuContainerClear.enabled = true;
   window.rtfText.wantsFocus = true;
@@ -34,15 +31,12 @@ void appendNoteBusily(const MainParts& parts) {
 
 void showContainer(const MainParts& parts) { parts.platform.show(parts.container); }
 
-void clearContainer(const MainParts& parts) {
+void askToClearContainer(const MainParts& parts) {
   const base::MessageAnswer answer =
       parts.platform.messageBox({.text = "Sind Sie sicher das Sie den Text-Container löschen möchten?",
                                  .title = "Container löschen",
                                  .buttons = base::MessageButtons::yesNo});
-  if (answer != base::MessageAnswer::yes) return;
-  const editor::UndoStore::Group step(parts.containerUndo);
-  editor::selectAll(parts.container.rtfTextC);
-  parts.container.rtfTextC.replaceSelection(base::Document());
+  if (answer == base::MessageAnswer::yes) editor::clearContainer(parts.container, parts.containerUndo);
 }
 
 }  // namespace
@@ -56,7 +50,7 @@ void wireNote(base::Wiring& wiring, const MainParts& parts) {
   command(window.mnuNotiz, "MAIN-mnuNptiz_Click", appendNote);
   command(window.cmdContainerLook, "MAIN-cmdContainerLook_Click", showContainer);
   command(window.mnuContainerLook, "MAIN-mnuContainerLook_Click", showContainer);
-  command(window.mnuContainerClear, "MAIN-cmdContainerClear_Click", clearContainer);
+  command(window.mnuContainerClear, "MAIN-cmdContainerClear_Click", askToClearContainer);
 }
 
 }  // namespace commands

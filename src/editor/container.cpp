@@ -20,9 +20,19 @@ DocumentParts documentOf(const ContainerParts& parts) {
   return {.document = parts.document, .text = parts.window.rtfTextC, .undo = parts.undo, .platform = parts.platform};
 }
 
+// The editing commands are enabled as far as there is something for them.
+void offerEditing(ContainerWindow& window, const UndoStore& undo) {
+  const base::TextCount count = window.rtfTextC.countAll();
+  const bool isMarked = window.rtfTextC.selection().length > 0;
+  window.mnuUndo.enabled = undo.canUndo();
+  window.mnuRedo.enabled = undo.canRedo();
+  for (base::MenuEntry* const entry : {&window.mnuCut, &window.mnuCopy, &window.mnuClear}) entry->enabled = isMarked;
+  window.mnuMarkAll.enabled = count.characters + count.lineEnds >= 1;
+}
+
 // What follows every command.
 void showState(const ContainerParts& parts) {
-  offerContainerEditing(parts.window, parts.undo);
+  offerEditing(parts.window, parts.undo);
   parts.window.rtfTextC.wantsFocus = true;
 }
 
@@ -133,20 +143,24 @@ ContainerWindow::ContainerWindow() : Window("frmContainer") {
   }
 }
 
-void appendToContainer(base::RichText& container, const base::Document& block) {
-  const base::TextSelection place = container.selection();
-  container.select({.start = std::numeric_limits<std::int64_t>::max(), .length = 0});
-  container.replaceSelection(block);
-  container.select(place);
+void appendToContainer(ContainerWindow& container, UndoStore& undo, const base::Document& block) {
+  {
+    const UndoStore::Group step(undo);
+    const base::TextSelection place = container.rtfTextC.selection();
+    container.rtfTextC.select({.start = std::numeric_limits<std::int64_t>::max(), .length = 0});
+    container.rtfTextC.replaceSelection(block);
+    container.rtfTextC.select(place);
+  }
+  offerEditing(container, undo);
 }
 
-void offerContainerEditing(ContainerWindow& window, const UndoStore& undo) {
-  const base::TextCount count = window.rtfTextC.countAll();
-  const bool isMarked = window.rtfTextC.selection().length > 0;
-  window.mnuUndo.enabled = undo.canUndo();
-  window.mnuRedo.enabled = undo.canRedo();
-  for (base::MenuEntry* const entry : {&window.mnuCut, &window.mnuCopy, &window.mnuClear}) entry->enabled = isMarked;
-  window.mnuMarkAll.enabled = count.characters + count.lineEnds >= 1;
+void clearContainer(ContainerWindow& container, UndoStore& undo) {
+  {
+    const UndoStore::Group step(undo);
+    selectAll(container.rtfTextC);
+    container.rtfTextC.replaceSelection(base::Document());
+  }
+  offerEditing(container, undo);
 }
 
 void saveContainer(const ContainerParts& parts) {
@@ -159,8 +173,7 @@ void saveContainer(const ContainerParts& parts) {
 void wireContainer(base::Wiring& wiring, const ContainerParts& parts) {
   const ContainerWindow& window = parts.window;
   for (const Event event : {Event::changed, Event::selected, Event::released}) {
-    wiring.on(window.rtfTextC, event,
-              [parts] { errors::skipping([&] { offerContainerEditing(parts.window, parts.undo); }); });
+    wiring.on(window.rtfTextC, event, [parts] { errors::skipping([&] { offerEditing(parts.window, parts.undo); }); });
   }
   ContainerWiring on(wiring, parts);
   wireEditing(on, window);

@@ -53,11 +53,11 @@ struct ContainerParts {
 
 void wireContainer(base::Wiring& wiring, const ContainerParts& parts);
 
-/// Puts `block` at the end of the container's text; the selection stays where it is.
-void appendToContainer(base::RichText& container, const base::Document& block);
+/// Puts `block` at the end of the container's text as one step; the selection stays where it is.
+void appendToContainer(ContainerWindow& container, UndoStore& undo, const base::Document& block);
 
-/// Enables the container's editing commands as far as there is something for them, once its text was changed.
-void offerContainerEditing(ContainerWindow& window, const UndoStore& undo);
+/// Empties the container, which can be undone.
+void clearContainer(ContainerWindow& container, UndoStore& undo);
 
 /// The save dialog and all that follows it; a failure, cancelling included, is the caller's.
 void saveContainer(const ContainerParts& parts);

@@ -27,6 +27,7 @@ commands::MainParts partsOf(Program& program) {
           .containerUndo = program.containerUndo,
           .spellingWindow = program.windows.spelling,
           .spelling = program.spelling,
+          .sort = program.windows.sort,
           .platform = program.platform,
           .reporter = program.reporter};
 }
@@ -35,7 +36,6 @@ editor::ContainerParts containerPartsOf(Program& program) {
   return {.window = program.windows.container,
           .document = program.containerDocument,
           .undo = program.containerUndo,
-          .sort = program.windows.sort,
           .platform = program.platform,
           .reporter = program.reporter};
 }

@@ -14,13 +14,13 @@
 namespace lifecycle {
 
 // clang-format off
-#define TESSIK_WINDOWS(WINDOW)          \
-  WINDOW(frame::MainWindow, main)       \
-  WINDOW(LoadingWindow, loading)        \
-  WINDOW(frame::WaitWindow, wait)       \
-  WINDOW(calc::PickerWindow, picker)    \
+#define TESSIK_WINDOWS(WINDOW)               \
+  WINDOW(frame::MainWindow, main)            \
+  WINDOW(LoadingWindow, loading)             \
+  WINDOW(frame::WaitWindow, wait)            \
+  WINDOW(calc::PickerWindow, picker)         \
   WINDOW(editor::ContainerWindow, container) \
-  WINDOW(editor::SpellingWindow, spelling) \
+  WINDOW(editor::SpellingWindow, spelling)   \
   WINDOW(editor::SortWindow, sort)
 // clang-format on
 

@@ -64,7 +64,9 @@ TEST(ContainerWalk, IsWrittenUndoneZoomedAndCopiedBesideTheMainWindow) {
     walk.press(Qt::CTRL | Qt::Key_W);
     QTest::qWait(50);
     EXPECT_FALSE(walk.window.isOpen);
-    walk.desktop->run([&] { editor::appendToContainer(walk.window.rtfTextC, base::plainDocument("\r\nMeier", {})); });
+    lifecycle::Program& program = walk.desktop->program();
+    walk.desktop->run(
+        [&] { editor::appendToContainer(walk.window, program.containerUndo, base::plainDocument("\r\nMeier", {})); });
     walk.open();
     EXPECT_EQ(walk.text("rtfTextC"), "Auto Haus\nMeier");
     EXPECT_EQ(walk.selection(), (base::TextSelection{0, 9}));
