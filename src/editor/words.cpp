@@ -42,7 +42,7 @@ bool isDottedName(std::u32string_view piece) {
   const auto start = lastLabel(piece);
   if (!start) return false;
   const auto label = piece.substr(*start);
-  const auto end = std::find_if_not(label.begin(), label.end(), isLetterOrDigit);
+  const auto* const end = std::find_if_not(label.begin(), label.end(), isLetterOrDigit);
   return end - label.begin() <= kLongestLabel || lowered(label.front()) == label.front() ||
          std::any_of(label.begin(), end, isDigit);
 }

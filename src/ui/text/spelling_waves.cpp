@@ -1,7 +1,6 @@
 // Red waves under the unknown words that can be seen.
 #include "ui/text/spelling_waves.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QPainter>
@@ -11,6 +10,7 @@
 #include <QTextCursor>
 #include <QTextLayout>
 #include <algorithm>
+#include <limits>
 #include <ranges>
 #include <utility>
 
@@ -108,6 +108,16 @@ void paintWaves(QPainter& painter, const QTextBlock& block, const ShownWord& wor
   }
 }
 
+double topOf(const QTextBlock& block) { return block.layout()->position().y(); }
+
+/// What has not been laid out yet lies below all that is shown.
+double bottomOf(const QTextBlock& block) {
+  const int lines = block.layout()->lineCount();
+  if (lines == 0) return std::numeric_limits<double>::max();
+  const QTextLine last = block.layout()->lineAt(lines - 1);
+  return topOf(block) + last.y() + last.height();
+}
+
 QPointF scrolled(const RichTextEdit& edit) {
   return {double(edit.horizontalScrollBar()->value()), double(edit.verticalScrollBar()->value())};
 }
@@ -151,9 +161,8 @@ std::vector<ShownWord> SpellingWaves::wavedIn(const QRect& area) {
   std::vector<ShownWord> words;
   if (!isOn_ || isMissing_) return words;
   const QRectF shown = QRectF(area).translated(scrolled(edit_));
-  QTextBlock block = edit_.cursorForPosition(area.topLeft()).block();
-  for (; block.isValid(); block = block.next()) {
-    if (edit_.document()->documentLayout()->blockBoundingRect(block).top() > shown.bottom()) break;
+  for (QTextBlock block = blockAt(shown.top()); block.isValid(); block = block.next()) {
+    if (bottomOf(block) == std::numeric_limits<double>::max() || topOf(block) > shown.bottom()) break;
     // What an input method composes stands in the layout, but not in the text.
     if (!block.layout()->preeditAreaText().isEmpty()) continue;
     const Range part = shownPart(block, shown.top(), shown.bottom());
@@ -162,6 +171,16 @@ std::vector<ShownWord> SpellingWaves::wavedIn(const QRect& area) {
                          [this](const ShownWord& word) { return isToBeWaved(word); });
   }
   return words;
+}
+
+// From where the last one was: the toolkit's own search goes through every paragraph where the point lies in a margin,
+// and through every line of one.
+QTextBlock SpellingWaves::blockAt(double y) {
+  QTextBlock block = edit_.document()->findBlockByNumber(std::min(lastBlock_, edit_.document()->blockCount() - 1));
+  while (bottomOf(block) > y && block.previous().isValid()) block = block.previous();
+  while (bottomOf(block) <= y && block.next().isValid()) block = block.next();
+  lastBlock_ = block.blockNumber();
+  return block;
 }
 
 bool SpellingWaves::isToBeWaved(const ShownWord& word) {

@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QRect>
+#include <QTextBlock>
 #include <QTimer>
 #include <optional>
 #include <string>
@@ -43,6 +44,7 @@ class SpellingWaves : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
   void paint(const QRect& area);
   [[nodiscard]] std::vector<ShownWord> wavedIn(const QRect& area);
+  [[nodiscard]] QTextBlock blockAt(double y);
   [[nodiscard]] bool isToBeWaved(const ShownWord& word);
   [[nodiscard]] bool isBeingWritten(const ShownWord& word) const;
   void lookUpSome();
@@ -53,6 +55,7 @@ class SpellingWaves : public QObject {
   QTimer idle_;
   std::vector<std::u32string> unanswered_;  // the newest last
   std::optional<ShownWord> written_;        // that was left alone when the view was painted
+  int lastBlock_ = 0;                       // that a search ended at
   bool isOn_ = true;
   bool isMissing_ = false;  // there is no dictionary
 };
