@@ -66,7 +66,7 @@ TEST(Walk, FormatsAreTypedByKeysShownAtTheCaretAndCopied) {
   walk.press(Qt::Key_Return);
   walk.press(Qt::Key_R, Qt::ControlModifier);
   walk.press(Qt::Key_X, Qt::ControlModifier | Qt::ShiftModifier);
-  walk.desktop->mainForm().resize(1280, 600);  // or the bar has no room for it
+  walk.desktop->mainForm().resize(1600, 600);  // or the bar has no room for it
   walk.widget<QComboBox>("cboFontSize").setFocus(Qt::TabFocusReason);
   walk.type("13,7");
   walk.press(Qt::Key_Return);

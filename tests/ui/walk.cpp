@@ -71,6 +71,8 @@ Walk::~Walk() { EXPECT_TRUE(expected_.empty()) << expected_.size() << " question
 void Walk::answerQuestions() {
   auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   if (dialog == nullptr || isActing_ || !dialog->isVisible()) return;
+  // A person waits for the window to have the keys.
+  if (!dialog->isActiveWindow()) return QApplication::setActiveWindow(dialog);
   if (expected_.empty()) {
     const auto* const box = qobject_cast<QMessageBox*>(dialog);
     ADD_FAILURE() << "not expected: " << toUtf8(box != nullptr ? box->text() : dialog->windowTitle());

@@ -31,7 +31,7 @@ TEST(Walk, AnOrderIsPricedKeyByKeyAndTheSettingsOutliveTheProgram) {
   QList<int> parts;
   {
     Walk walk(shop);
-    walk.desktop->mainForm().resize(1200, 700);
+    walk.desktop->mainForm().resize(1600, 700);
     EXPECT_EQ(Walk::focus(), "rtfText");
     walk.type("Bäckerei");
     EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "8,00 EUR");
