@@ -1,6 +1,9 @@
 // Surcharges and discounts.
 #include "calc/adjustments.h"
 
+#include <algorithm>
+#include <string>
+
 #include "base/money.h"
 #include "base/number.h"
 #include "calc/pricing.h"
@@ -43,6 +46,21 @@ void fillAdjustments(base::ComboBox& box, const settings::AdjustmentList& list) 
   box.clear();
   box.items.add(std::string(kNoAdjustment));
   for (int slot = 1; slot <= list.count; ++slot) box.items.add(list.amount(slot));
+}
+
+void refillAdjustments(frame::MainWindow& window, const settings::Adjustments& adjustments) {
+  const auto refill = [&](base::ComboBox& box, const settings::AdjustmentList& list) {
+    const int place = box.selected;
+    const std::string entry = box.text;
+    fillAdjustments(box, list);
+    const auto& items = box.items;
+    const bool isInPlace = items.holds(place) && items[place] == entry;
+    const int found = static_cast<int>(std::find(items.begin(), items.end(), entry) - items.begin());
+    box.select(isInPlace ? place : items.holds(found) ? found : 0);
+    if (!box.toolTip.empty()) describeChoice(box, adjustments.surcharges);
+  };
+  refill(window.cboAufpreis, adjustments.surcharges);
+  refill(window.cboRabatt, adjustments.discounts);
 }
 
 void surchargeChosen(frame::MainWindow& window, const settings::AdjustmentList& surcharges) {

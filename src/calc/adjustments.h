@@ -15,6 +15,8 @@
 namespace calc {
 
 inline constexpr std::string_view kNoAdjustment = "0.00 EUR";
+/// The same in the lists that show remarks.
+inline constexpr std::string_view kFixedEntry = "0.00 EUR -> FEST";
 
 /// Digits, "." and "," (which becomes "."); everything else is refused.
 std::optional<char32_t> amountKey(char32_t key);
@@ -25,6 +27,10 @@ std::optional<char32_t> signedAmountKey(char32_t key);
 
 /// Fills a combo box with "0.00 EUR" and the used entries of its list, empty ones included.
 void fillAdjustments(base::ComboBox& box, const settings::AdjustmentList& list);
+
+/// Fills both combo boxes anew. What was chosen stays chosen, at its place or wherever it first stands now, else there
+/// is no adjustment; the order labels stay.
+void refillAdjustments(frame::MainWindow& window, const settings::Adjustments& adjustments);
 
 /// What follows the choice of a surcharge or discount: the order labels and the tool tip. Both tool tips take the
 /// remarks of the surcharges.

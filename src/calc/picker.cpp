@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "calc/adjustments.h"
+
 namespace calc {
 
 void wirePicker(base::Wiring& wiring, PickerWindow& picker, base::Platform& platform) {
@@ -22,12 +24,10 @@ void wirePicker(base::Wiring& wiring, PickerWindow& picker, base::Platform& plat
 void fillPicker(PickerWindow& picker, const settings::AdjustmentList& list) {
   base::ItemList& rows = picker.lstAuswahl.items;
   picker.lstAuswahl.clear();
-  rows.add("0.00 EUR -> FEST");
+  rows.add(std::string(kFixedEntry));
   if (list.count < 1 || list.amount(1).empty()) return;
   for (int slot = 1; slot <= list.count; ++slot) {
-    const std::string& amount = list.amount(slot);
-    const std::string& remark = list.remark(slot);
-    if (!amount.empty()) rows.add(remark.empty() ? amount : amount + " -> " + remark);
+    if (!list.amount(slot).empty()) rows.add(list.described(slot));
   }
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/failure.h"
+#include "base/profile_lines.h"
 
 namespace settings {
 
@@ -36,6 +37,17 @@ void INISetArray(const std::string& file, std::string_view section, std::span<co
 void replaceArray(ProfileFile& file, std::string_view section, std::span<const std::string> array) {
   file.deleteSection(section);
   file.setSection(section, array);
+}
+
+bool comesBack(std::span<const std::string> array) {
+  constexpr std::string_view kSection = "Liste";
+  ProfileFile written = ProfileFile::parse("");
+  replaceArray(written, kSection, array);
+  const std::vector<std::string> read = ProfileFile::parse(written.bytes()).sectionLines(kSection);
+  const auto end = std::find(array.begin(), array.end(), std::string());
+  return std::equal(array.begin(), end, read.begin(), read.end(), [](const std::string& text, const std::string& line) {
+    return base::withoutOuterBlanks(text) == line;
+  });
 }
 
 void INIGetArray(const std::string& file, std::string_view section, std::span<std::string> array) {

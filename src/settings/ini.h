@@ -27,6 +27,10 @@ std::string INIGetValue(const std::string& file, std::string_view section, std::
 /// data nothing is left of the section.
 void INISetArray(const std::string& file, std::string_view section, std::span<const std::string> array);
 
+/// Whether the array comes back from its section as it is, outer blanks aside: that no element up to the first empty
+/// one is blank, a header, a comment or of several lines, and that all of it fits the buffer of a list.
+bool comesBack(std::span<const std::string> array);
+
 /// INISetArray() on a file in memory, for the caller that changes more than one section in one replacement.
 void replaceArray(base::ProfileFile& file, std::string_view section, std::span<const std::string> array);
 

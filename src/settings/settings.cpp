@@ -11,6 +11,10 @@ std::size_t AdjustmentList::index(int slot) {
   return static_cast<std::size_t>(slot) - 1;
 }
 
+std::string AdjustmentList::described(int slot) const {
+  return remark(slot).empty() ? amount(slot) : amount(slot) + " -> " + remark(slot);
+}
+
 std::string Paths::generalSettings() const { return base::joinPath(programDirectory, "Ostrowerk.ini"); }
 
 std::string Paths::adjustmentSettings() const { return base::joinPath(programDirectory, "Tessik.ini"); }

@@ -28,6 +28,10 @@ class AdjustmentList {
   /// Slot `slot` of the amounts or remarks; error 9 outside 1 to kSlots.
   [[nodiscard]] const std::string& amount(int slot) const { return amounts.at(index(slot)); }
   [[nodiscard]] const std::string& remark(int slot) const { return remarks.at(index(slot)); }
+  std::string& amount(int slot) { return amounts.at(index(slot)); }
+  std::string& remark(int slot) { return remarks.at(index(slot)); }
+  /// The amount and, behind an arrow, the remark if there is one.
+  [[nodiscard]] std::string described(int slot) const;
 
  private:
   static std::size_t index(int slot);
