@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QSettings>
 #include <QTextEdit>
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -70,7 +71,8 @@ Walk::~Walk() { EXPECT_TRUE(expected_.empty()) << expected_.size() << " question
 // One modal window after the other, each by the next of what is expected; an unexpected one fails and is closed.
 void Walk::answerQuestions() {
   auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  if (dialog == nullptr || isActing_ || !dialog->isVisible()) return;
+  if (dialog == nullptr || !dialog->isVisible()) return;
+  if (std::find(busyWith_.begin(), busyWith_.end(), dialog) != busyWith_.end()) return;
   // A person waits for the window to have the keys.
   if (!dialog->isActiveWindow()) return QApplication::setActiveWindow(dialog);
   if (expected_.empty()) {
@@ -79,11 +81,16 @@ void Walk::answerQuestions() {
     dialog->done(QDialog::Rejected);
     return;
   }
-  const auto act = std::move(expected_.front());
+  // Outside the timer's own event, so that it goes on ticking for what `act` opens in its turn.
+  busyWith_.push_back(dialog);
+  const auto act = [this, dialog, expected = std::move(expected_.front())] {
+    expected(*dialog);
+    // Once what the last click asked for has happened, such as the end of the dialog.
+    QMetaObject::invokeMethod(
+        &person_, [this, dialog] { std::erase(busyWith_, dialog); }, Qt::QueuedConnection);
+  };
   expected_.pop_front();
-  isActing_ = true;
-  act(*dialog);
-  isActing_ = false;
+  QMetaObject::invokeMethod(dialog, act, Qt::QueuedConnection);
 }
 
 void Walk::expectBox(const QString& text, QMessageBox::StandardButton button) {

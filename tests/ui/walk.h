@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "support/temporary_directory.h"
 #include "ui/desktop.h"
@@ -92,7 +93,7 @@ class Walk {
   std::deque<std::function<void(QDialog&)>> expected_;
   QTimer person_;
   QWidget* form_ = nullptr;  // of the window that the walk is in
-  bool isActing_ = false;
+  std::vector<QDialog*> busyWith_;  // the windows before which the person is acting
 };
 
 }  // namespace ui
