@@ -19,7 +19,7 @@ namespace {
 
 /// Fixed parts of a form, and the parts that the toolkit's own widgets consist of.
 bool isFurniture(const QString& name) {
-  constexpr std::array prefixes = {"fix", "qt_", "_q_"};
+  constexpr std::array prefixes = {"fix", "qt_", "_q_", "ScrollLeftButton", "ScrollRightButton"};
   return name.isEmpty() ||
          std::any_of(prefixes.begin(), prefixes.end(), [&](const char* prefix) { return name.startsWith(prefix); });
 }

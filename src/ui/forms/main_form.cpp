@@ -11,6 +11,7 @@
 #include "ui/forms/letter_size.h"
 #include "ui/forms/view_commands.h"
 #include "ui/user_settings.h"
+#include "ui/widgets/sign_label.h"
 #include "ui_main_window.h"
 
 namespace ui {
@@ -39,16 +40,6 @@ void moveFormatIntoToolBar(const Ui::MainWindowForm& drawn) {
   bar.addActions({drawn.cmdFett, drawn.cmdKursiv, drawn.cmdUnterstrichen, drawn.mnuDurchgestrichen, drawn.mnuFarbe});
   bar.addSeparator();
   bar.addActions({drawn.mnuLinks, drawn.mnuZentriert, drawn.mnuRechts});
-}
-
-enum class WhenHidden { keepsPlace, leavesPlace };
-
-// A word on a colour of its own, which can be read in either palette.
-void makeSign(QLabel& word, WhenHidden whenHidden) {
-  word.setStyleSheet(QStringLiteral("background: #ffb300; color: black; border-radius: 3px; padding: 0 4px;"));
-  QSizePolicy policy(QSizePolicy::Maximum, QSizePolicy::Maximum);
-  policy.setRetainSizeWhenHidden(whenHidden == WhenHidden::keepsPlace);
-  word.setSizePolicy(policy);
 }
 
 void furnishPanel(const Ui::MainWindowForm& drawn) {
