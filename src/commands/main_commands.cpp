@@ -8,6 +8,7 @@
 #include "commands/find_commands.h"
 #include "commands/format_commands.h"
 #include "commands/note_commands.h"
+#include "commands/options_commands.h"
 #include "commands/running_sum_commands.h"
 #include "commands/sort_commands.h"
 #include "commands/spelling_commands.h"
@@ -153,6 +154,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireFind(wiring, parts);
   wireSorting(wiring, parts);
   wireProgram(wiring, parts);
+  wireOptions(wiring, parts);
   wireHeightAndQuantity(wiring, parts);
   wireAdjustmentLists(wiring, parts);
   wireAmountBoxes(wiring, parts);

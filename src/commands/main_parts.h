@@ -16,6 +16,7 @@
 #include "errors/reporting.h"
 #include "frame/main_window.h"
 #include "frame/wait_window.h"
+#include "options/options_window.h"
 #include "settings/settings.h"
 
 namespace commands {
@@ -36,6 +37,7 @@ struct MainParts {
   editor::SpellingWindow& spellingWindow;
   editor::Spelling& spelling;
   editor::SortWindow& sort;
+  options::OptionsWindow& optionsDialog;
   base::Platform& platform;
   errors::Reporter& reporter;
 };

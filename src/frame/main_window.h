@@ -124,6 +124,7 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuErsetzen)                                                        \
   CONTROL(base::MenuEntry, mnuSort)                                                            \
   CONTROL(base::MenuEntry, mnuLeerzeilen)                                                      \
+  CONTROL(base::MenuEntry, mnuOptionen)                                                        \
   CONTROL(base::MenuEntry, mnuInfo)                                                            \
   /* the status line */                                                                        \
   CONTROL(base::Label, lblZeile)                 /* format at the caret, line and column */    \

@@ -28,6 +28,7 @@ commands::MainParts partsOf(Program& program) {
           .spellingWindow = program.windows.spelling,
           .spelling = program.spelling,
           .sort = program.windows.sort,
+          .optionsDialog = program.windows.optionsDialog,
           .platform = program.platform,
           .reporter = program.reporter};
 }

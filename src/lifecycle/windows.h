@@ -10,6 +10,7 @@
 #include "frame/main_window.h"
 #include "frame/wait_window.h"
 #include "lifecycle/loading_window.h"
+#include "options/options_window.h"
 
 namespace lifecycle {
 
@@ -21,7 +22,8 @@ namespace lifecycle {
   WINDOW(calc::PickerWindow, picker)         \
   WINDOW(editor::ContainerWindow, container) \
   WINDOW(editor::SpellingWindow, spelling)   \
-  WINDOW(editor::SortWindow, sort)
+  WINDOW(editor::SortWindow, sort)           \
+  WINDOW(options::OptionsWindow, optionsDialog)
 // clang-format on
 
 #define TESSIK_DECLARE_WINDOW(Kind, name) Kind name;

@@ -12,6 +12,7 @@
 #include "ui/forms/letter_size.h"
 #include "ui/forms/main_form.h"
 #include "ui_loading.h"
+#include "ui_options.h"
 #include "ui_picker.h"
 #include "ui_sort.h"
 #include "ui_spelling.h"
@@ -58,6 +59,7 @@ constexpr std::array kForms = {
     Form{"frmContainer", container},
     Form{"frmRechtschreibung", dialog<Ui::SpellingForm, 70, 18>},
     Form{"frmSort", dialog<Ui::SortForm, 72, 16>},
+    Form{"frmOptions", dialog<Ui::OptionsForm, 126, 34>},
 };
 
 }  // namespace
