@@ -148,6 +148,15 @@ struct Menu : Control {
   bool operator==(const Menu&) const = default;
 };
 
+/// The directories below `root`, of which `path` is the chosen one; without a root there are none.
+struct DirectoryTree : Control {
+  std::string root;
+  std::string path;
+  int readings = 0;  // another figure: the disk may have changed
+
+  bool operator==(const DirectoryTree&) const = default;
+};
+
 /// The cards of a window of which one is on top.
 struct Tabs : Control {
   int current = 0;

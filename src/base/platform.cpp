@@ -33,6 +33,7 @@ DateTime Platform::now() const { notAvailable(); }
 int Platform::screenWidth() const { notAvailable(); }
 SystemInformation Platform::systemInformation() const { notAvailable(); }
 std::string Platform::systemRoot() const { notAvailable(); }
+std::vector<Volume> Platform::volumes() const { notAvailable(); }
 std::string Platform::clipboardText() const { notAvailable(); }
 std::optional<Document> Platform::clipboardDocument() const { notAvailable(); }
 void Platform::setClipboardText(std::string_view /*text*/) { notAvailable(); }

@@ -59,6 +59,14 @@ struct UserSetting {
   bool operator==(const UserSetting&) const = default;
 };
 
+/// A place of the machine that holds files, under a name that people know it by.
+struct Volume {
+  std::string name;
+  std::string path;  // of its topmost directory
+
+  bool operator==(const Volume&) const = default;
+};
+
 class Platform {
  public:
   virtual ~Platform() = default;
@@ -113,6 +121,9 @@ class Platform {
   [[nodiscard]] virtual SystemInformation systemInformation() const;
   /// The directory of the system's own files.
   [[nodiscard]] virtual std::string systemRoot() const;
+
+  /// The user's own directory, the whole machine, then what is mounted beside them. None of them is touched for this.
+  [[nodiscard]] virtual std::vector<Volume> volumes() const;
 
   /// The clipboard's text without its formats, empty when it holds none.
   [[nodiscard]] virtual std::string clipboardText() const;

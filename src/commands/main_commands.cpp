@@ -12,6 +12,7 @@
 #include "commands/running_sum_commands.h"
 #include "commands/sort_commands.h"
 #include "commands/spelling_commands.h"
+#include "commands/tool_commands.h"
 #include "commands/undo_commands.h"
 #include "editor/editing.h"
 
@@ -160,6 +161,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireAmountBoxes(wiring, parts);
   wireRunningSum(wiring, parts);
   wireNote(wiring, parts);
+  wireTools(wiring, parts);
 }
 
 }  // namespace commands

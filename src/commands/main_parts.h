@@ -3,10 +3,12 @@
 
 #include <string_view>
 
+#include "backup/backup_window.h"
 #include "base/platform.h"
 #include "base/wiring.h"
 #include "calc/calc.h"
 #include "calc/picker.h"
+#include "calculator/calculator_window.h"
 #include "editor/container.h"
 #include "editor/find_bar.h"
 #include "editor/open_document.h"
@@ -38,6 +40,8 @@ struct MainParts {
   editor::Spelling& spelling;
   editor::SortWindow& sort;
   options::OptionsWindow& optionsDialog;
+  calculator::CalculatorWindow& calculator;
+  backup::BackupWindow& backup;
   base::Platform& platform;
   errors::Reporter& reporter;
 };

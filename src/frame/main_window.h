@@ -126,6 +126,8 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuLeerzeilen)                                                      \
   CONTROL(base::MenuEntry, mnuOptionen)                                                        \
   CONTROL(base::MenuEntry, mnuInfo)                                                            \
+  CONTROL(base::MenuEntry, mnuCalculator)                                                      \
+  CONTROL(base::MenuEntry, mnuBackup)                                                          \
   /* the status line */                                                                        \
   CONTROL(base::Label, lblZeile)                 /* format at the caret, line and column */    \
   CONTROL(base::Label, lblZusatz)                /* the piece addition, while there is one */  \

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "lifecycle/restored_data.h"
 #include "lifecycle/shut_down.h"
 #include "lifecycle/start_up.h"
 #include "lifecycle/unsaved_work.h"
@@ -18,6 +19,12 @@ void wire(Program& program) {
   editor::wireContainer(wiring, containerPartsOf(program));
   calc::wirePicker(wiring, program.windows.picker, program.platform);
   editor::wireSort(wiring, program.windows.sort, program.platform, program.reporter);
+  backup::wireBackup(wiring, {.window = program.windows.backup,
+                              .programDirectory = program.paths.programDirectory,
+                              .platform = program.platform,
+                              .reporter = program.reporter,
+                              .beforeBackup = [&program](const auto& kinds) { saveForBackup(program, kinds); },
+                              .afterRestore = [&program](const auto& kinds) { readRestored(program, kinds); }});
   wiring.on(program.windows.main.tmrLoad, base::Event::tick, [&program] { loadBehindScreen(program); });
   wiring.on(program.windows.main.tmrSicherung, base::Event::tick, [&program] { keepRecoveryCopy(program); });
   wiring.on(program.windows.main, base::Event::closing, [&program] { unload(program); });

@@ -29,6 +29,8 @@ commands::MainParts partsOf(Program& program) {
           .spelling = program.spelling,
           .sort = program.windows.sort,
           .optionsDialog = program.windows.optionsDialog,
+          .calculator = program.windows.calculator,
+          .backup = program.windows.backup,
           .platform = program.platform,
           .reporter = program.reporter};
 }

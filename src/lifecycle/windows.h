@@ -3,7 +3,9 @@
 
 #include <utility>
 
+#include "backup/backup_window.h"
 #include "calc/picker.h"
+#include "calculator/calculator_window.h"
 #include "editor/container.h"
 #include "editor/sort_window.h"
 #include "editor/spelling_dialog.h"
@@ -15,15 +17,17 @@
 namespace lifecycle {
 
 // clang-format off
-#define TESSIK_WINDOWS(WINDOW)               \
-  WINDOW(frame::MainWindow, main)            \
-  WINDOW(LoadingWindow, loading)             \
-  WINDOW(frame::WaitWindow, wait)            \
-  WINDOW(calc::PickerWindow, picker)         \
-  WINDOW(editor::ContainerWindow, container) \
-  WINDOW(editor::SpellingWindow, spelling)   \
-  WINDOW(editor::SortWindow, sort)           \
-  WINDOW(options::OptionsWindow, optionsDialog)
+#define TESSIK_WINDOWS(WINDOW)                     \
+  WINDOW(frame::MainWindow, main)                  \
+  WINDOW(LoadingWindow, loading)                   \
+  WINDOW(frame::WaitWindow, wait)                  \
+  WINDOW(calc::PickerWindow, picker)               \
+  WINDOW(editor::ContainerWindow, container)       \
+  WINDOW(editor::SpellingWindow, spelling)         \
+  WINDOW(editor::SortWindow, sort)                 \
+  WINDOW(options::OptionsWindow, optionsDialog)    \
+  WINDOW(calculator::CalculatorWindow, calculator) \
+  WINDOW(backup::BackupWindow, backup)
 // clang-format on
 
 #define TESSIK_DECLARE_WINDOW(Kind, name) Kind name;

@@ -23,6 +23,7 @@
 #include "ui/text/clipboard_formats.h"
 #include "ui/user_settings.h"
 #include "ui/utf8.h"
+#include "ui/volumes.h"
 
 namespace ui {
 namespace {
@@ -178,6 +179,8 @@ int QtPlatform::screenWidth() const {
 base::SystemInformation QtPlatform::systemInformation() const { return ui::systemInformation(); }
 
 std::string QtPlatform::systemRoot() const { return "/usr"; }
+
+std::vector<base::Volume> QtPlatform::volumes() const { return ui::volumes(); }
 
 std::string QtPlatform::clipboardText() const {
   const QMimeData* const data = QGuiApplication::clipboard()->mimeData();

@@ -53,6 +53,7 @@ class QtPlatform : public base::Platform {
   [[nodiscard]] int screenWidth() const override;
   [[nodiscard]] base::SystemInformation systemInformation() const override;
   [[nodiscard]] std::string systemRoot() const override;
+  [[nodiscard]] std::vector<base::Volume> volumes() const override;
   [[nodiscard]] std::string clipboardText() const override;
   [[nodiscard]] std::optional<base::Document> clipboardDocument() const override;
   void setClipboardText(std::string_view text) override;

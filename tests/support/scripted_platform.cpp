@@ -27,6 +27,18 @@ void ScriptedPlatform::expectFileDialog(std::string filter, std::optional<std::s
   expected_.push_back({.message = {}, .window = std::move(filter), .whileOpen = {}, .file = std::move(chosen)});
 }
 
+void ScriptedPlatform::expectInput(base::InputQuestion question, std::optional<std::string> answer) {
+  base::Message shown{.text = std::move(question.text), .title = std::move(question.title)};
+  expected_.push_back({.message = std::move(shown), .window = {}, .whileOpen = {}, .file = std::move(answer)});
+}
+
+std::optional<std::string> ScriptedPlatform::inputBox(const base::InputQuestion& question) {
+  const Question expected = next(question.text);
+  EXPECT_EQ(expected.message.text, question.text);
+  EXPECT_EQ(expected.message.title, question.title);
+  return expected.file;
+}
+
 std::string ScriptedPlatform::answerOf(const std::string& filter) {
   const Question question = next(filter);
   EXPECT_EQ(question.window, filter);

@@ -43,6 +43,9 @@ class ScriptedPlatform : public base::Platform {
   /// Expects the modal window `name` next; `whileOpen` acts as the person before it and must close it.
   void expectModal(std::string name, std::function<void(base::Window&)> whileOpen);
 
+  /// Expects a question for a line of text; without an answer the box is left.
+  void expectInput(base::InputQuestion question, std::optional<std::string> answer);
+
   /// What was shown and hidden beside the main window, and every status or caption worth telling, in order.
   std::vector<std::string> log;
   /// Runs at each refresh: a test looks at what stands on the screen in the middle of long work.
@@ -51,6 +54,7 @@ class ScriptedPlatform : public base::Platform {
   base::DateTime moment{.year = 2026, .month = 11, .day = 21, .hour = 9, .minute = 5, .second = 0};
   base::SystemInformation system;
   int width = 1280;
+  std::vector<base::Volume> drives;
   std::string clipboard;
   std::optional<base::Document> clipboardFormats;  // the same text with formats
   /// What dialogs of fonts and colours answer; without an answer they are cancelled.
@@ -68,6 +72,7 @@ class ScriptedPlatform : public base::Platform {
   std::optional<base::Failure> storeFailure;
 
   base::MessageAnswer messageBox(const base::Message& message) override;
+  std::optional<std::string> inputBox(const base::InputQuestion& question) override;
   void showModal(base::Window& window) override;
   void close(base::Window& window) override;
   void show(base::Window& window) override { window.isOpen = true, log.push_back("show " + std::string(window.name)); }
@@ -86,6 +91,7 @@ class ScriptedPlatform : public base::Platform {
   [[nodiscard]] int screenWidth() const override { return width; }
   [[nodiscard]] base::SystemInformation systemInformation() const override { return system; }
   [[nodiscard]] std::string systemRoot() const override { return "/usr"; }
+  [[nodiscard]] std::vector<base::Volume> volumes() const override { return drives; }
   [[nodiscard]] std::string clipboardText() const override { return clipboard; }
   [[nodiscard]] std::optional<base::Document> clipboardDocument() const override { return clipboardFormats; }
   void setClipboardText(std::string_view text) override { clipboard = text, clipboardFormats.reset(); }

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 
+#include "ui/binding/binding_directories.h"
 #include "ui/binding/binding_list.h"
 #include "ui/binding/binding_menu.h"
 #include "ui/binding/binding_rich_text.h"
@@ -97,6 +98,10 @@ std::unique_ptr<Binding> makeBinding(base::ProgressBar& model, QObject& shown, c
     return shown.metaObject()->indexOfProperty(property) >= 0;
   });
   return fits ? bindingTo<ProgressBinding, QWidget>(model, shown, context) : nullptr;
+}
+
+std::unique_ptr<Binding> makeBinding(base::DirectoryTree& model, QObject& shown, const Context& context) {
+  return bindingTo<DirectoriesBinding, QTreeView>(model, shown, context);
 }
 
 std::unique_ptr<Binding> makeBinding(base::Tabs& model, QObject& shown, const Context& context) {

@@ -35,6 +35,7 @@ std::unique_ptr<Binding> makeBinding(base::OptionButton& model, QObject& shown, 
 std::unique_ptr<Binding> makeBinding(base::MenuEntry& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::Menu& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::ProgressBar& model, QObject& shown, const Context& context);
+std::unique_ptr<Binding> makeBinding(base::DirectoryTree& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::Tabs& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::Picture& model, QObject& shown, const Context& context);
 std::unique_ptr<Binding> makeBinding(base::Panel& model, QObject& shown, const Context& context);

@@ -11,6 +11,8 @@
 #include "ui/forms/form_dialog.h"
 #include "ui/forms/letter_size.h"
 #include "ui/forms/main_form.h"
+#include "ui_backup.h"
+#include "ui_calculator.h"
 #include "ui_loading.h"
 #include "ui_options.h"
 #include "ui_picker.h"
@@ -51,6 +53,19 @@ QWidget* waitWindow(QWidget* parent) {
 // A window of its own beside the main window, which may stand in front of it.
 QWidget* container(QWidget* /*parent*/) { return new ContainerForm; }
 
+// A window of its own, which need not lie above the main window.
+QWidget* calculator(QWidget* parent) {
+  constexpr double kKeyType = 1.3;  // times the desktop's
+  auto* const window = new FormDialog(parent, Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+  Ui::CalculatorForm drawn;
+  drawn.setupUi(window);
+  QFont type = window->font();
+  type.setPointSizeF(type.pointSizeF() * kKeyType);
+  drawn.fixTasten->setFont(type);
+  window->resize(inLetters(*window, 46, 24));
+  return window;
+}
+
 constexpr std::array kForms = {
     Form{"frmMain", mainWindow},
     Form{"frmLoad", loadingScreen, Appears::whenItTakesLonger},
@@ -60,6 +75,8 @@ constexpr std::array kForms = {
     Form{"frmRechtschreibung", dialog<Ui::SpellingForm, 70, 18>},
     Form{"frmSort", dialog<Ui::SortForm, 72, 16>},
     Form{"frmOptions", dialog<Ui::OptionsForm, 126, 34>},
+    Form{"frmCalc", calculator},
+    Form{"frmBackup", dialog<Ui::BackupForm, 120, 30>},
 };
 
 }  // namespace
