@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -239,9 +240,8 @@ Copied copyAll(const std::vector<Kind>& kinds, const std::string& from, const st
   for (const Kind kind : kinds) {
     try {
       copyFile(kind, from, to);
-    } catch (const base::Failure& failure) {
-      copied.fault = {
-          .text = numberOf(failure) + " - " + failure.text(), .title = "Fehler I/O", .icon = MessageIcon::stop};
+    } catch (const std::exception& fault) {
+      copied.fault = {.text = base::asFailure(fault).text(), .title = "Fehler I/O", .icon = MessageIcon::stop};
       return copied;
     }
     copied.kinds.push_back(kind);

@@ -94,17 +94,15 @@ TEST(Backup, AnythingThatCannotBeCopiedIsRefusedBeforeAnythingIs) {
   const std::string invalid = "Wählen Sie ein gültiges Verzeichnis aus! Der Vorgang wird abgebrochen";
   const std::string into = "ACHTUNG! Sie können nicht in das Programmverzeichnis sichern";
   const std::string from = "ACHTUNG! Sie können nicht vom Programmverzeichnis aus wiederherstellen";
-  const Row rows[] = {
-      {false, "", "Sie müssen Daten auswählen die gesichert werden sollen", "Fehler",
-       "Sie müssen die Daten auswählen die Sie wiederherstellen möchten", "Fehlerhafte Auswahl"},
-      {true, "", invalid, "FEHLER", invalid, "FEHLER"},
-      {true, "stick", invalid, "FEHLER", invalid, "FEHLER"},
-      {true, shop.path("gone"), invalid, "FEHLER", invalid, "FEHLER"},
-      {true, shop.path("program/Tessik.pdb"), invalid, "FEHLER", invalid, "FEHLER"},
-      {true, shop.path("program/"), into, "Tessik", from, "Tessik"},
-      {true, shop.path("stick/../program/."), into, "Tessik", from, "Tessik"},
-      {true, shop.path("link"), into, "Tessik", from, "Tessik"},
-  };
+  const Row rows[] = {{false, "", "Sie müssen Daten auswählen die gesichert werden sollen", "Fehler",
+                       "Sie müssen die Daten auswählen die Sie wiederherstellen möchten", "Fehlerhafte Auswahl"},
+                      {true, "", invalid, "FEHLER", invalid, "FEHLER"},
+                      {true, "stick", invalid, "FEHLER", invalid, "FEHLER"},
+                      {true, shop.path("gone"), invalid, "FEHLER", invalid, "FEHLER"},
+                      {true, shop.path("program/Tessik.pdb"), invalid, "FEHLER", invalid, "FEHLER"},
+                      {true, shop.path("program/"), into, "Tessik", from, "Tessik"},
+                      {true, shop.path("stick/../program/."), into, "Tessik", from, "Tessik"},
+                      {true, shop.path("link"), into, "Tessik", from, "Tessik"}};
   BackupDesk desk(shop);
   const auto before = filesOf(shop);
   desk.whileOpen([&] {
@@ -164,13 +162,13 @@ TEST(Backup, AFailureEndsTheRunAtItsFile) {
   desk.whileOpen([&] {
     desk.tick(true, false, true, true);
     desk.ask("Speicherort", "Preise\r\n", "sichern", MessageAnswer::yes);
-    desk.expect("75 - Auf die Datei kann nicht zugegriffen werden.\n" + shop.path("stick/Tessik.ini") + " (Fehler 75)",
+    desk.expect("Auf die Datei kann nicht zugegriffen werden.\n" + shop.path("stick/Tessik.ini") + " (Fehler 75)",
                 "Fehler I/O", MessageIcon::stop);
     desk.click(desk.backup.cmdBackup);
     desk.tick(false, true, false, true);
     desk.ask("Speicherort", "Einstellungen\r\nPreise\r\n", "sichern", MessageAnswer::yes);
-    desk.expect("53 - Die Datei wurde nicht gefunden.\n" + shop.path("program/Termine.ini") + " (Fehler 53)",
-                "Fehler I/O", MessageIcon::stop);
+    desk.expect("Die Datei wurde nicht gefunden.\n" + shop.path("program/Termine.ini") + " (Fehler 53)", "Fehler I/O",
+                MessageIcon::stop);
     desk.click(desk.backup.cmdBackup);
   });
   EXPECT_EQ(shop.read("stick/Ostrowerk.ini"), shop.read("program/Ostrowerk.ini")) << "copied before it";
@@ -239,8 +237,7 @@ TEST(Backup, EveryOutcomeOfMakingADirectoryIsTold) {
        {.text = "Unerwarteter Fehler: 75 - Auf die Datei kann nicht zugegriffen werden.", .icon = MessageIcon::stop},
        "stick"},
       {longName, {.text = "Unerwarteter Fehler: 52 - Der Dateiname ist ungültig.", .icon = MessageIcon::stop}, "stick"},
-      {std::nullopt, {}, "stick"},
-  };
+      {std::nullopt, {}, "stick"}};
   BackupDesk desk(shop);
   desk.whileOpen([&] {
     for (const Row& row : rows) {

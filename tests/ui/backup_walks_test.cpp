@@ -23,7 +23,9 @@ TEST(Walk, DataAreSavedIntoANewDirectoryAndBroughtBackIntoTheRunningProgram) {
   Walk walk(shop);
   walk.type("ab");
   EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "2,00 EUR");
+  const auto& windows = walk.desktop->program().windows;
   walk.whenAsked([&](QDialog& dialog) {
+    walk.turnTo(windows.backup);
     walk.fill("txtPath", toQString(stick));
     EXPECT_EQ(walk.text("lblHinweis"), "In diesem Verzeichnis liegt noch keine Sicherung.");
     auto& tree = walk.widget<QTreeView>("Dir1");
@@ -40,24 +42,27 @@ TEST(Walk, DataAreSavedIntoANewDirectoryAndBroughtBackIntoTheRunningProgram) {
     EXPECT_EQ(tree.currentIndex().data().toString(), "neu");
     EXPECT_EQ(walk.text("lblPath"), backup::shortenedPath(stick + "/a/neu"));
     walk.expectBox("Vorgang erfolgreich", QMessageBox::Ok);
-    walk.press(Qt::Key_S, Qt::AltModifier);
+    walk.click("cmdBackup");
     dialog.close();
   });
   openBackup(walk);
   EXPECT_EQ(shop.directory.read("stick/a/neu/Tessik.pdb"), shop.file("Tessik.pdb"));
 
   shop.directory.write("stick/a/neu/Tessik.pdb", "[Versalien]\r\n0=20\r\n[Preise]\r\n0=5,00\r\n");
+  walk.turnTo(windows.main);
   walk.whenAsked([&](QDialog& dialog) {
+    walk.turnTo(windows.backup);
     EXPECT_EQ(walk.text("txtPath"), stick + "/a/neu") << "kept";
-    walk.press(Qt::Key_D, Qt::AltModifier);
+    walk.click("optRestore");
     EXPECT_EQ(walk.text("cmdBackup"), "&Wiederherstellen");
     walk.expectBox("Trotzdem wiederherstellen?", QMessageBox::Yes);
     walk.expectBox("Vorgang erfolgreich", QMessageBox::Ok);
-    walk.press(Qt::Key_W, Qt::AltModifier);
-    EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "10,00 EUR");
+    walk.click("cmdBackup");
     dialog.close();
   });
   openBackup(walk);
+  walk.turnTo(windows.main);
+  EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "10,00 EUR");
   EXPECT_EQ(shop.file("Tessik.pdb"), shop.directory.read("stick/a/neu/Tessik.pdb"));
   EXPECT_NE(shop.userStore().find("BackupPath=" + stick + "/a/neu"), std::string::npos);
   walk.leave();

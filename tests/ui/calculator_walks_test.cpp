@@ -1,9 +1,6 @@
 // Walks through the pocket calculator, keys and clicks alone.
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QToolButton>
-
 #include "walk.h"
 
 namespace ui {
@@ -12,12 +9,11 @@ namespace {
 TEST(Walk, ThePocketCalculatorIsWorkedByMouseAndKeyboardAlike) {
   Shop shop;
   Walk walk(shop);
-  const auto open = [&walk] {
+  const auto& windows = walk.desktop->program().windows;
+  const auto open = [&] {
     walk.press(Qt::Key_X, Qt::AltModifier);
     walk.press(Qt::Key_T);
-    QWidget& window = *walk.widget<QToolButton>("Number1").window();
-    QApplication::setActiveWindow(&window);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    walk.turnTo(windows.calculator);
   };
   open();
   walk.type("12,5*");
@@ -26,7 +22,7 @@ TEST(Walk, ThePocketCalculatorIsWorkedByMouseAndKeyboardAlike) {
   walk.press(Qt::Key_Space);
   walk.press(Qt::Key_Return);
   EXPECT_EQ(walk.text("Readout"), "50");
-  walk.press(Qt::Key_D, Qt::AltModifier);
+  walk.click("cmdDM");
   EXPECT_EQ(walk.text("Readout") + walk.text("lblWährung"), "97,79Währung: DM");
   EXPECT_FALSE(walk.enabled("cmdDM"));
   walk.type("/0");
@@ -37,7 +33,8 @@ TEST(Walk, ThePocketCalculatorIsWorkedByMouseAndKeyboardAlike) {
   walk.press(Qt::Key_Space);
   EXPECT_EQ(walk.text("Readout"), "50,00") << "by Tab to the key that can be used";
   walk.press(Qt::Key_Escape);
-  EXPECT_FALSE(walk.desktop->program().windows.calculator.isOpen);
+  EXPECT_FALSE(windows.calculator.isOpen);
+  walk.turnTo(windows.main);
   open();
   EXPECT_EQ(walk.text("Readout"), "0,");
   walk.close();

@@ -92,7 +92,7 @@ class Walk {
 
   std::deque<std::function<void(QDialog&)>> expected_;
   QTimer person_;
-  QWidget* form_ = nullptr;  // of the window that the walk is in
+  QWidget* form_ = nullptr;         // of the window that the walk is in
   std::vector<QDialog*> busyWith_;  // the windows before which the person is acting
 };
 

@@ -53,10 +53,11 @@ QWidget* waitWindow(QWidget* parent) {
 // A window of its own beside the main window, which may stand in front of it.
 QWidget* container(QWidget* /*parent*/) { return new ContainerForm; }
 
-// A window of its own, which need not lie above the main window.
-QWidget* calculator(QWidget* parent) {
+// Belongs to no other window, so that it lies in front of the main window only as long as the setting or the person
+// says.
+QWidget* calculator(QWidget* /*parent*/) {
   constexpr double kKeyType = 1.3;  // times the desktop's
-  auto* const window = new FormDialog(parent, Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+  auto* const window = new FormDialog(nullptr, Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
   Ui::CalculatorForm drawn;
   drawn.setupUi(window);
   QFont type = window->font();
