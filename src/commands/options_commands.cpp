@@ -2,6 +2,7 @@
 #include "commands/options_commands.h"
 
 #include "calc/adjustments.h"
+#include "commands/tool_commands.h"
 #include "options/options.h"
 
 namespace commands {
@@ -13,6 +14,7 @@ void edit(const MainParts& parts) {
                         .platform = parts.platform,
                         .reporter = parts.reporter});
   calc::refillAdjustments(parts.window, parts.settings.adjustments);
+  followCalculatorSetting(parts);
   calculate(parts);
 }
 
