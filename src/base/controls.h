@@ -21,6 +21,13 @@ class ItemList {
  public:
   using const_iterator = std::vector<std::string>::const_iterator;
 
+  /// What the last change did, so that whoever shows long lists need not begin anew for one row.
+  struct Step {
+    enum class Kind { anew, inserted, removed, replaced };
+    Kind kind = Kind::anew;
+    int row = 0;
+  };
+
   ItemList() = default;
   ItemList(const ItemList&) = default;
   ItemList& operator=(const ItemList& other) { return assign(other.rows_), *this; }
@@ -35,19 +42,36 @@ class ItemList {
   [[nodiscard]] const_iterator end() const { return rows_.end(); }
   [[nodiscard]] std::uint64_t revision() const { return revision_; }
 
-  void add(std::string row) { rows_.push_back(std::move(row)), ++revision_; }
+  [[nodiscard]] Step lastStep() const { return lastStep_; }
+
+  void add(std::string row) { insert(size(), std::move(row)); }
   /// Before the row at `index`, which is 0 to size().
-  void insert(int index, std::string row) { rows_.insert(rows_.begin() + index, std::move(row)), ++revision_; }
-  void set(int index, std::string row) { rows_[static_cast<std::size_t>(index)] = std::move(row), ++revision_; }
-  void removeAt(int index) { rows_.erase(rows_.begin() + index), ++revision_; }
-  void clear() { rows_.clear(), ++revision_; }
-  void assign(std::vector<std::string> rows) { rows_ = std::move(rows), ++revision_; }
+  void insert(int index, std::string row) {
+    rows_.insert(rows_.begin() + index, std::move(row));
+    step(Step::Kind::inserted, index);
+  }
+  void set(int index, std::string row) {
+    rows_[static_cast<std::size_t>(index)] = std::move(row);
+    step(Step::Kind::replaced, index);
+  }
+  void removeAt(int index) {
+    rows_.erase(rows_.begin() + index);
+    step(Step::Kind::removed, index);
+  }
+  void clear() { assign({}); }
+  void assign(std::vector<std::string> rows) {
+    rows_ = std::move(rows);
+    step(Step::Kind::anew, 0);
+  }
 
   bool operator==(const ItemList& other) const { return rows_ == other.rows_; }
 
  private:
+  void step(Step::Kind kind, int row) { lastStep_ = {kind, row}, ++revision_; }
+
   std::vector<std::string> rows_;
   std::uint64_t revision_ = 0;
+  Step lastStep_;
 };
 
 /// What every visible control has. `toolTip` empty means the one that the form draws, if any.

@@ -55,11 +55,34 @@ std::vector<std::pair<int, int>> runs(const std::vector<int>& rows) {
 }  // namespace
 
 bool RowsModel::carry() {
-  if (!revision_.follow(rows_.revision())) return false;
+  if (revision_ == rows_.revision()) return false;
+  const bool isOneStep = revision_ && *revision_ + 1 == rows_.revision();
+  revision_ = rows_.revision();
+  isOneStep ? carry(rows_.lastStep()) : begin();
+  return true;
+}
+
+void RowsModel::begin() {
   beginResetModel();
   count_ = rows_.size();
   endResetModel();
-  return true;
+}
+
+void RowsModel::carry(base::ItemList::Step step) {
+  switch (step.kind) {
+    case base::ItemList::Step::Kind::inserted:
+      beginInsertRows({}, step.row, step.row);
+      count_ = rows_.size();
+      return endInsertRows();
+    case base::ItemList::Step::Kind::removed:
+      beginRemoveRows({}, step.row, step.row);
+      count_ = rows_.size();
+      return endRemoveRows();
+    case base::ItemList::Step::Kind::replaced:
+      return emit dataChanged(index(step.row), index(step.row));
+    case base::ItemList::Step::Kind::anew:
+      return begin();
+  }
 }
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {

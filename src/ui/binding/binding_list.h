@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QListView>
 #include <memory>
+#include <optional>
 
 #include "ui/binding/binding.h"
 #include "ui/binding/filtered_line.h"
@@ -26,9 +27,13 @@ class RowsModel : public QAbstractListModel {
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
  private:
+  void begin();
+  /// One row changed: views keep their place and need not be laid out anew.
+  void carry(base::ItemList::Step step);
+
   const base::ItemList& rows_;
   int count_ = 0;  // as carried last; the rows may already be fewer
-  Shown<std::uint64_t> revision_;
+  std::optional<std::uint64_t> revision_;
   base::Wiring::RowTip tip_;
 };
 
