@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/files.h"
+#include "calc/price_database.h"
 #include "settings/settings.h"
 
 namespace lifecycle {
@@ -25,9 +26,10 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 20> kSampleP
 
 base::ProfileFile samplePriceList() {
   base::ProfileFile file = base::ProfileFile::parse("");
+  calc::markAsSamples(file, calc::kCapHeights);
   for (std::size_t i = 0; i < kSamplePrices.size(); ++i) {
-    file.setValue("Versalien", std::to_string(i), kSamplePrices.at(i).first);
-    file.setValue("Preise", std::to_string(i), kSamplePrices.at(i).second);
+    file.setValue(calc::kCapHeights.names, std::to_string(i), kSamplePrices.at(i).first);
+    file.setValue(calc::kCapHeights.prices, std::to_string(i), kSamplePrices.at(i).second);
   }
   return file;
 }

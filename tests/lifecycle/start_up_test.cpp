@@ -110,7 +110,7 @@ TEST(StartUp, ADirectoryOfItsOwnIsMadeWithoutQuestionsAndCopies) {
       EXPECT_NE(home.read(std::string("tessik/") + name), "") << name;
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(home.path("tessik")), {}), 3) << "no copies";
-    EXPECT_EQ(session.window.lblHinweis.text, "") << version;
+    EXPECT_EQ(session.window.lblHinweis.text, "Musterpreise: bitte eigene Preise eintragen") << version;
     EXPECT_EQ(session.window.cboBuchstabenhöhe.items.size(), 20) << version;
   }
 }
