@@ -3,12 +3,12 @@
 
 #include "base/version.h"
 #include "calc/adjustments.h"
-#include "calc/price_database.h"
 #include "commands/file_commands.h"
 #include "commands/find_commands.h"
 #include "commands/format_commands.h"
 #include "commands/note_commands.h"
 #include "commands/options_commands.h"
+#include "commands/price_list_commands.h"
 #include "commands/running_sum_commands.h"
 #include "commands/sort_commands.h"
 #include "commands/spelling_commands.h"
@@ -141,10 +141,6 @@ void selectDiscount(const MainParts& parts, int index) {
   calculate(parts);
 }
 
-void EditDatabase(const MainParts& parts) {
-  base::tagged("MAIN-EditDatabase", [&parts] { calc::LoadPriceDatabase(parts.window, parts.paths.priceDatabase()); });
-}
-
 void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireDocument(wiring, parts);
   wireFormat(wiring, parts);
@@ -162,6 +158,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireRunningSum(wiring, parts);
   wireNote(wiring, parts);
   wireTools(wiring, parts);
+  wirePriceLists(wiring, parts);
 }
 
 }  // namespace commands

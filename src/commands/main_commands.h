@@ -11,7 +11,4 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts);
 void selectSurcharge(const MainParts& parts, int index);
 void selectDiscount(const MainParts& parts, int index);
 
-/// Reads the price database again after it was edited; the selection is not restored.
-void EditDatabase(const MainParts& parts);
-
 }  // namespace commands

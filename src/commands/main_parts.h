@@ -19,6 +19,8 @@
 #include "frame/main_window.h"
 #include "frame/wait_window.h"
 #include "options/options_window.h"
+#include "pricelists/price_editor.h"
+#include "pricelists/roll_goods.h"
 #include "settings/settings.h"
 
 namespace commands {
@@ -36,6 +38,8 @@ struct MainParts {
   calc::PickerWindow& picker;
   editor::ContainerWindow& container;
   editor::UndoStore& containerUndo;
+  pricelists::PriceEditorWindow& priceEditor;
+  pricelists::RollGoodsWindow& rollGoods;
   editor::SpellingWindow& spellingWindow;
   editor::Spelling& spelling;
   editor::SortWindow& sort;

@@ -12,10 +12,8 @@ using base::Event;
 base::Document note(const MainParts& parts) { return calc::offerNote(parts.window, parts.settings.rates.unit); }
 
 void append(const MainParts& parts, const base::Document& block) {
-  editor::appendToContainer(parts.container, parts.containerUndo, block);
-  frame::MainWindow& window = parts.window;
-  window.cmdContainerLook.enabled = window.mnuContainerLook.enabled = window.mnuContainerClear.enabled = true;
-  window.rtfText.wantsFocus = true;
+  appendBlock(parts, block);
+  parts.window.rtfText.wantsFocus = true;
 }
 
 void appendNote(const MainParts& parts) { append(parts, note(parts)); }
@@ -29,8 +27,6 @@ void appendNoteBusily(const MainParts& parts) {
   append(parts, block);
 }
 
-void showContainer(const MainParts& parts) { parts.platform.show(parts.container); }
-
 void askToClearContainer(const MainParts& parts) {
   const base::MessageAnswer answer =
       parts.platform.messageBox({.text = "Sind Sie sicher das Sie den Text-Container löschen möchten?",
@@ -40,6 +36,14 @@ void askToClearContainer(const MainParts& parts) {
 }
 
 }  // namespace
+
+void appendBlock(const MainParts& parts, const base::Document& block) {
+  editor::appendToContainer(parts.container, parts.containerUndo, block);
+  frame::MainWindow& window = parts.window;
+  window.cmdContainerLook.enabled = window.mnuContainerLook.enabled = window.mnuContainerClear.enabled = true;
+}
+
+void showContainer(const MainParts& parts) { parts.platform.show(parts.container); }
 
 void wireNote(base::Wiring& wiring, const MainParts& parts) {
   const auto command = [&](const base::Control& control, std::string_view tag, void (*run)(const MainParts&)) {

@@ -125,6 +125,8 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuSort)                                                            \
   CONTROL(base::MenuEntry, mnuLeerzeilen)                                                      \
   CONTROL(base::MenuEntry, mnuOptionen)                                                        \
+  CONTROL(base::MenuEntry, mnuDatenbank)                                                       \
+  CONTROL(base::MenuEntry, mnuVoll)                                                            \
   CONTROL(base::MenuEntry, mnuInfo)                                                            \
   CONTROL(base::MenuEntry, mnuCalculator)                                                      \
   CONTROL(base::MenuEntry, mnuBackup)                                                          \

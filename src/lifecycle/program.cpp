@@ -25,6 +25,8 @@ commands::MainParts partsOf(Program& program) {
           .picker = program.windows.picker,
           .container = program.windows.container,
           .containerUndo = program.containerUndo,
+          .priceEditor = program.windows.priceEditor,
+          .rollGoods = program.windows.rollGoods,
           .spellingWindow = program.windows.spelling,
           .spelling = program.spelling,
           .sort = program.windows.sort,

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "calc/adjustments.h"
+#include "commands/price_list_commands.h"
 #include "commands/tool_commands.h"
 #include "settings/user_keys.h"
 
@@ -70,15 +71,6 @@ void readSettingsAgain(Program& program, const std::vector<File>& files) {
   if (!problems.empty()) throw settings::failureOf(problems);
 }
 
-// The height that was chosen stays so, if it is there still.
-void readPricesAgain(const commands::MainParts& parts) {
-  base::ComboBox& heights = parts.window.cboBuchstabenhöhe;
-  const std::string former = heights.text;
-  errors::reporting(parts.reporter, kBackupTag, [&] { commands::EditDatabase(parts); });
-  const auto found = std::find(heights.items.begin(), heights.items.end(), former);
-  heights.select(found == heights.items.end() ? 0 : static_cast<int>(found - heights.items.begin()));
-}
-
 }  // namespace
 
 void saveForBackup(Program& program, const std::vector<Kind>& kinds) {
@@ -94,8 +86,9 @@ void readRestored(Program& program, const std::vector<Kind>& kinds) {
   errors::reporting(program.reporter, kBackupTag, [&] { readSettingsAgain(program, files); });
   if (!files.empty()) calc::refillAdjustments(parts.window, program.settings.adjustments);
   commands::followCalculatorSetting(parts);
-  if (contains(kinds, Kind::prices)) readPricesAgain(parts);
-  errors::reporting(program.reporter, kBackupTag, [&] { commands::calculate(parts); });
+  errors::reporting(program.reporter, kBackupTag, [&] {
+    contains(kinds, Kind::prices) ? commands::readPricesAgain(parts) : commands::calculate(parts);
+  });
 }
 
 }  // namespace lifecycle

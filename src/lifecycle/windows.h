@@ -13,20 +13,24 @@
 #include "frame/wait_window.h"
 #include "lifecycle/loading_window.h"
 #include "options/options_window.h"
+#include "pricelists/price_editor.h"
+#include "pricelists/roll_goods.h"
 
 namespace lifecycle {
 
 // clang-format off
-#define TESSIK_WINDOWS(WINDOW)                     \
-  WINDOW(frame::MainWindow, main)                  \
-  WINDOW(LoadingWindow, loading)                   \
-  WINDOW(frame::WaitWindow, wait)                  \
-  WINDOW(calc::PickerWindow, picker)               \
-  WINDOW(editor::ContainerWindow, container)       \
-  WINDOW(editor::SpellingWindow, spelling)         \
-  WINDOW(editor::SortWindow, sort)                 \
-  WINDOW(options::OptionsWindow, optionsDialog)    \
-  WINDOW(calculator::CalculatorWindow, calculator) \
+#define TESSIK_WINDOWS(WINDOW)                       \
+  WINDOW(frame::MainWindow, main)                    \
+  WINDOW(LoadingWindow, loading)                     \
+  WINDOW(frame::WaitWindow, wait)                    \
+  WINDOW(calc::PickerWindow, picker)                 \
+  WINDOW(editor::ContainerWindow, container)         \
+  WINDOW(editor::SpellingWindow, spelling)           \
+  WINDOW(editor::SortWindow, sort)                   \
+  WINDOW(options::OptionsWindow, optionsDialog)      \
+  WINDOW(pricelists::PriceEditorWindow, priceEditor) \
+  WINDOW(pricelists::RollGoodsWindow, rollGoods)     \
+  WINDOW(calculator::CalculatorWindow, calculator)   \
   WINDOW(backup::BackupWindow, backup)
 // clang-format on
 

@@ -16,6 +16,8 @@
 #include "ui_loading.h"
 #include "ui_options.h"
 #include "ui_picker.h"
+#include "ui_price_editor.h"
+#include "ui_roll_goods.h"
 #include "ui_sort.h"
 #include "ui_spelling.h"
 #include "ui_wait.h"
@@ -78,6 +80,8 @@ constexpr std::array kForms = {
     Form{"frmOptions", dialog<Ui::OptionsForm, 126, 34>},
     Form{"frmCalc", calculator},
     Form{"frmBackup", dialog<Ui::BackupForm, 120, 30>},
+    Form{"frmData", dialog<Ui::PriceEditorForm, 84, 36>},
+    Form{"frmVoll", dialog<Ui::RollGoodsForm, 136, 34>},
 };
 
 }  // namespace

@@ -1,0 +1,17 @@
+// The windows of price lists, what opens them from the main window and what follows them there.
+#pragma once
+
+#include "commands/main_parts.h"
+
+namespace commands {
+
+void wirePriceLists(base::Wiring& wiring, const MainParts& parts);
+
+/// Reads the price database again after it was edited; the selection is not restored.
+void EditDatabase(const MainParts& parts);
+
+/// The same and what follows it, also when the list was read in part: the height that was selected is so again if it is
+/// there still, else the first, and the calculation runs. The reload reports its failure itself.
+void readPricesAgain(const MainParts& parts);
+
+}  // namespace commands

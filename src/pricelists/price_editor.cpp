@@ -1,0 +1,34 @@
+// The editor of the price list.
+#include "pricelists/price_editor.h"
+
+namespace pricelists {
+namespace {
+
+constexpr PriceTableKind kPriceList{.list = calc::kCapHeights,
+                                    .subject = "Nettopreis eines Zeichens für jede Versalienhöhe",
+                                    .nameMissing = "Bitte eine Versalienhöhe eingeben",
+                                    .loadTag = "DATA-formActivate",
+                                    .addTag = "DATA-cmdAdd",
+                                    .insertTag = "DATA-Einfügen",
+                                    .changeTag = "DATA-List1-DblClick",
+                                    .deleteTag = "DATA-cmdDelete",
+                                    .clearTag = "DATA-cmdUpdate_Click",
+                                    .exportTag = "DATA-Zwischenablage",
+                                    .timerTag = "DATA-timer1",
+                                    .saveTag = "DATA-cmdOK"};
+
+}  // namespace
+
+PriceTable priceEditor(PriceEditorWindow& window, const settings::Paths& paths, const settings::Rates& rates,
+                       base::Platform& platform, errors::Reporter& reporter) {
+  return {window, kPriceList, paths, rates, platform, reporter};
+}
+
+bool editPriceList(const PriceTable& editor) {
+  openPriceTable(editor);
+  editor.window.txtVersalie.wantsFocus = true;
+  editor.platform.showModal(editor.window);
+  return editor.window.isSaved;
+}
+
+}  // namespace pricelists

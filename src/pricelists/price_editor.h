@@ -1,0 +1,19 @@
+// The editor of the price list: cap heights and the price of one character of each.
+#pragma once
+
+#include "pricelists/price_table.h"
+
+namespace pricelists {
+
+struct PriceEditorWindow : PriceTableWindow {
+  PriceEditorWindow() : PriceTableWindow("frmData") {}
+};
+
+/// What the editor of the price list works on; all of it outlives the wiring.
+PriceTable priceEditor(PriceEditorWindow& window, const settings::Paths& paths, const settings::Rates& rates,
+                       base::Platform& platform, errors::Reporter& reporter);
+
+/// Opens the editor and waits until it is closed; true when the list was saved.
+bool editPriceList(const PriceTable& editor);
+
+}  // namespace pricelists

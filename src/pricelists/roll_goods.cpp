@@ -1,0 +1,152 @@
+// Roll goods.
+#include "pricelists/roll_goods.h"
+
+#include "base/number.h"
+#include "base/text.h"
+#include "calc/adjustments.h"
+#include "calc/pricing.h"
+#include "pricelists/price_rows.h"
+
+namespace pricelists {
+namespace {
+
+using base::Currency;
+using base::Event;
+
+constexpr PriceTableKind kFoils{
+    .list = {.names = "Folien", .prices = "FPreise", .row = "der Folie"},
+    .subject = "Nettopreis eines Quadratmeters jeder Folie",
+    .nameMissing = "Bitte einen Foliennamen eingeben",
+    .loadTag = "VOLL-FormLoad",
+    .addTag = "VOLL-cmdAdd",
+    .insertTag = "VOLL-Einfügen",
+    .changeTag = "VOLL-List1-DblClick",
+    .deleteTag = "VOLL-cmdDelete",
+    .clearTag = "VOLL-cmdUpdate",
+    .exportTag = "VOLL-Zwischenablage",
+    .timerTag = "VOLL-timer1",
+    .saveTag = "VOLL-cmdOK",
+};
+
+std::string selectedOf(const PriceTableWindow& window, const base::ListBox& list) {
+  const int row = selectedRow(window);
+  return row < 0 ? std::string() : list.items[row];
+}
+
+void replaceZero(base::TextBox& box, std::string_view instead) {
+  if (base::leadingNumber(box.text) == 0) box.text = instead;
+}
+
+void calculate(const RollGoods& goods) {
+  RollGoodsWindow& window = goods.window;
+  replaceZero(window.txtHöhe, "1.00");
+  replaceZero(window.txtBreite, "1.00");
+  replaceZero(window.txtStück, "1");
+  window.Stückpreis =
+      rollPiecePrice(base::leadingNumber(window.txtHöhe.text), base::leadingNumber(window.txtBreite.text),
+                     window.Einheit, base::leadingNumber(selectedOf(window, window.List2)));
+  window.Gesamtpreis = rollTotal(window.Stückpreis, base::leadingNumber(window.txtStück.text));
+  const base::NumberFormat format = goods.platform.numberFormat();
+  window.lblPreis.text = base::euroText(window.Gesamtpreis, format);
+  window.lblPBrutto.text = base::euroText(calc::grossTotal(window.Gesamtpreis, goods.rates.vatPercent), format);
+}
+
+base::Wiring::Procedure calculation(const RollGoods& goods) {
+  return [goods] { errors::reporting(goods.reporter, "VOLL-calc", [&] { calculate(goods); }); };
+}
+
+PriceTable foilTable(const RollGoods& goods) {
+  return {goods.window, kFoils, goods.paths, goods.rates, goods.platform, goods.reporter, calculation(goods)};
+}
+
+void wireInputs(base::Wiring& wiring, const RollGoods& goods) {
+  RollGoodsWindow& window = goods.window;
+  const auto run = calculation(goods);
+  for (base::TextBox* const box : {&window.txtHöhe, &window.txtBreite, &window.txtStück}) {
+    wiring.filter(*box, calc::amountKey);
+    wiring.on(*box, Event::changed, [box, run] {
+      if (base::leadingNumber(box->text) != 0) run();
+    });
+    wiring.on(*box, Event::leaving, run);
+  }
+}
+
+void wireUnits(base::Wiring& wiring, const RollGoods& goods) {
+  struct Choice {
+    const base::OptionButton& button;
+    std::string_view unit;
+  };
+  RollGoodsWindow& window = goods.window;
+  for (const Choice& choice : {Choice{window.Option1, "mm"}, {window.Option2, "cm"}, {window.Option3, "m"}}) {
+    wiring.on(choice.button, Event::click, [&window, unit = choice.unit, run = calculation(goods)] {
+      window.Einheit = unit;
+      run();
+    });
+  }
+}
+
+void resetInputs(RollGoodsWindow& window) {
+  window.txtHöhe.text = window.txtBreite.text = "1.00";
+  window.txtStück.text = "1";
+  window.Option1.checked = window.Option2.checked = false;
+  window.Option3.checked = true;
+  window.Einheit = "m";
+}
+
+std::string line(std::string_view label, std::size_t tabs, std::string_view value) {
+  return std::string(label).append(tabs, '\t').append(value).append(base::kLineBreak);
+}
+
+}  // namespace
+
+Currency rollPiecePrice(double length, double width, std::string_view unit, double pricePerSquareMetre) {
+  const double perMetre = unit == "mm" ? 1000 : unit == "cm" ? 100 : 1;
+  return Currency::fromDouble(length / perMetre * (width / perMetre) * pricePerSquareMetre);
+}
+
+Currency rollTotal(Currency piece, double pieces) { return Currency::fromDouble(piece.toDouble() * pieces); }
+
+std::string rollGoodsNote(const RollGoodsWindow& window, const settings::Rates& rates,
+                          const base::NumberFormat& format) {
+  constexpr std::size_t kRuleLength = 125;
+  const std::string end(base::kLineBreak);
+  const std::string foil = selectedOf(window, window.List1);
+  const std::string price = trimmedPrice(selectedOf(window, window.List2));
+  const std::string& unit = window.Einheit;
+  const std::string sides = window.txtHöhe.text + " * " + window.txtBreite.text + " " + unit;
+  const auto euro = [&](auto amount) { return base::euroText(amount, format); };
+  const double net = window.Gesamtpreis.toDouble() / base::kDeutscheMarkPerEuro;
+  const double gross = calc::grossTotal(window.Gesamtpreis, rates.vatPercent) / base::kDeutscheMarkPerEuro;
+  std::string note = end + "Folien-Rollenware: " + end + end;
+  note += line("Folie: ", 4, foil);
+  note += line("Preis pro qm: ", 3, price) + end;
+  note += line("Stückzahl: ", 3, window.txtStück.text);
+  note += line("Länge * Breite in " + unit + ":   ", 2, sides);
+  note += line("Stückpreis Netto:      ", 2, euro(window.Stückpreis));
+  note += line("Gesamtpreis Netto:   ", 2, euro(window.Gesamtpreis));
+  note += line("Mwst. in %: ", 3, std::to_string(rates.vatPercent) + " %");
+  note += line("Gesamtpreis Brutto: ", 2, window.lblPBrutto.text) + end + end;
+  note += "Zur Information -  entspricht in EURO:" + end + end;
+  note += line("Nettopreis in EURO: ", 2, euro(net));
+  note += line("Bruttopreis in EURO: ", 2, euro(gross));
+  return note + end + std::string(kRuleLength, '-') + end + end;
+}
+
+void showRollGoods(const RollGoods& goods) {
+  if (!goods.window.isOpen) {
+    resetInputs(goods.window);
+    openPriceTable(foilTable(goods));
+    calculation(goods)();
+    const bool isEmpty = goods.window.List1.items.empty();
+    (isEmpty ? static_cast<base::Control&>(goods.window.txtVersalie) : goods.window.List1).wantsFocus = true;
+  }
+  goods.platform.show(goods.window);
+}
+
+void wireRollGoods(base::Wiring& wiring, const RollGoods& goods) {
+  wirePriceTable(wiring, foilTable(goods));
+  wireInputs(wiring, goods);
+  wireUnits(wiring, goods);
+}
+
+}  // namespace pricelists
