@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
-#include <QLabel>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
@@ -68,13 +67,6 @@ void setProgramIcon() {
 QString shownAsPlainText(const QString& toolTip) {
   if (!Qt::mightBeRichText(toolTip)) return toolTip;
   return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(toolTip.toHtmlEscaped());
-}
-
-void makeSign(QLabel& word, WhenHidden whenHidden) {
-  word.setStyleSheet(QStringLiteral("background: #ffb300; color: black; border-radius: 3px; padding: 0 4px;"));
-  QSizePolicy policy(QSizePolicy::Maximum, QSizePolicy::Maximum);
-  policy.setRetainSizeWhenHidden(whenHidden == WhenHidden::keepsPlace);
-  word.setSizePolicy(policy);
 }
 
 bool isSameTypeface(const QString& one, const QString& other) {

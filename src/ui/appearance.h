@@ -7,7 +7,6 @@
 #include <vector>
 
 class QApplication;
-class QLabel;
 
 namespace ui {
 
@@ -19,11 +18,6 @@ void setProgramIcon();
 
 /// A tool tip that shows `toolTip` as it stands, whatever in it looks like tags.
 QString shownAsPlainText(const QString& toolTip);
-
-enum class WhenHidden { keepsPlace, leavesPlace };
-
-/// Makes `word` one on a colour of its own, which can be read in either palette.
-void makeSign(QLabel& word, WhenHidden whenHidden);
 
 /// Whether two names mean one typeface: "Arial [Monotype]" is "Arial" from a certain foundry.
 bool isSameTypeface(const QString& one, const QString& other);

@@ -5,7 +5,7 @@
 #include <QScrollBar>
 #include <QStyle>
 
-#include "ui/appearance.h"
+#include "ui/widgets/sign_label.h"
 #include "ui_price_table.h"
 
 namespace ui {
