@@ -54,7 +54,7 @@ bool isInCapitals(std::u32string_view word) {
          std::none_of(word.begin(), word.end(), isSmall);
 }
 
-std::u32string folded(std::u32string_view word) {
+std::u32string withoutCapitals(std::u32string_view word) {
   std::u32string result;
   for (const char32_t c : word) {
     const char32_t small = lowered(c);

@@ -16,7 +16,7 @@ std::u32string lowered(std::u32string_view word);
 /// Whether `word` is written in capitals throughout, ß counting as one for those who lack a better.
 bool isInCapitals(std::u32string_view word);
 
-/// What words have in common that differ in capitals alone: small letters, ß as ss.
-std::u32string folded(std::u32string_view word);
+/// What words have in common that are the same in capitals: small letters, ß as ss.
+std::u32string withoutCapitals(std::u32string_view word);
 
 }  // namespace editor

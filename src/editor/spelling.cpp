@@ -113,7 +113,7 @@ void Spelling::ignore(std::u32string_view word) {
 
 void Spelling::enter(std::u32string_view word) {
   ours_.emplace(word);
-  oursFolded_.insert(folded(word));
+  oursWithoutCapitals_.insert(withoutCapitals(word));
 }
 
 // What was known stays so.
@@ -153,7 +153,8 @@ bool Spelling::isListed(std::u32string_view word) {
 }
 
 bool Spelling::isOurs(std::u32string_view word) const {
-  return ours_.contains(std::u32string(word)) || (isInCapitals(word) && oursFolded_.contains(folded(word)));
+  return ours_.contains(std::u32string(word)) ||
+         (isInCapitals(word) && oursWithoutCapitals_.contains(withoutCapitals(word)));
 }
 
 }  // namespace editor

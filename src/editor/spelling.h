@@ -56,7 +56,7 @@ class Spelling {
   std::string ownWordsPath_;
   base::Dictionary* dictionary_ = nullptr;
   std::unordered_set<std::u32string> ours_;
-  std::unordered_set<std::u32string> oursFolded_;
+  std::unordered_set<std::u32string> oursWithoutCapitals_;
   std::unordered_map<std::u32string, bool> answers_;
   std::function<void()> changed_;
 };
