@@ -163,6 +163,8 @@ std::string withWindowsLineEnds(std::string_view text) {
   return result;
 }
 
+std::string inOneLine(std::string_view text) { return replaceAll(withWindowsLineEnds(text), kLineBreak, " "); }
+
 std::string withDecimalPoint(std::string_view text) {
   std::string result(text);
   std::replace(result.begin(), result.end(), ',', '.');

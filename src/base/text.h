@@ -37,6 +37,9 @@ std::string toUtf8(std::u32string_view text);
 
 std::string replaceAll(std::string_view text, std::string_view what, std::string_view with);
 
+/// Turns every line end (CR LF, LF, CR, U+2028, U+2029) into a blank.
+std::string inOneLine(std::string_view text);
+
 /// Turns every line end (CR LF, LF, CR, U+2028, U+2029) into CR LF.
 std::string withWindowsLineEnds(std::string_view text);
 

@@ -5,16 +5,13 @@
 #include <utility>
 
 #include "base/text.h"
+#include "editor/text_replacement.h"
 
 namespace editor {
 namespace {
 
 constexpr int kLookMilliseconds = 200;         // a pause in writing as long as this is used for counting
 constexpr std::int64_t kLongestTaken = 1'000;  // more than that nobody seeks, and no box shows
-
-std::string inOneLine(std::string_view text) {
-  return base::replaceAll(base::withWindowsLineEnds(text), base::kLineBreak, " ");
-}
 
 void setSought(frame::MainWindow& window, FindBar& bar, std::string sought) {
   bar.sought = std::move(sought);
@@ -110,7 +107,7 @@ void closeFind(frame::MainWindow& window, FindBar& bar) {
 }
 
 void seek(frame::MainWindow& window, FindBar& bar, const base::Platform& platform) {
-  setSought(window, bar, platform.composed(inOneLine(window.txtSuche.text)));
+  setSought(window, bar, platform.composed(base::inOneLine(window.txtSuche.text)));
   showHits(window, bar);
 }
 
@@ -131,7 +128,7 @@ void replaceHit(frame::MainWindow& window, FindBar& bar) {
   if (bar.sought.empty()) return openFind(window, bar);
   bar.hits.look(window.rtfText, bar.sought);
   if (bar.hits.numberOf(window.rtfText.selection())) {
-    window.rtfText.replaceSelection(inOneLine(window.txtErsetzen.text));
+    window.rtfText.replaceSelection(base::inOneLine(window.txtErsetzen.text));
   }
   findAgain(window, bar, Direction::forwards);
 }
@@ -141,8 +138,7 @@ void replaceAllHits(frame::MainWindow& window, FindBar& bar) {
   bar.hits.look(text, bar.sought);
   const std::int64_t count = bar.hits.count();
   if (count == 0) return showHits(window, bar);
-  text.select(bar.hits.span());
-  text.replaceSelection(replacedIn(text.selectedDocument(), bar.sought, inOneLine(window.txtErsetzen.text)));
+  replaceEach(text, bar.hits.all(), base::inOneLine(window.txtErsetzen.text));
   showHits(window, bar);
   tell(window, std::to_string(count) + " ersetzt");
 }

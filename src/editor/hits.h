@@ -29,8 +29,7 @@ class Hits {
   [[nodiscard]] std::optional<base::TextSelection> upTo(std::int64_t position) const;
   /// Which hit that is, from 1; nothing when it is none.
   [[nodiscard]] std::optional<std::int64_t> numberOf(base::TextSelection selection) const;
-  /// From the first hit to the end of the last; there must be one.
-  [[nodiscard]] base::TextSelection span() const;
+  [[nodiscard]] std::vector<base::TextSelection> all() const;
 
  private:
   [[nodiscard]] std::int64_t length() const { return static_cast<std::int64_t>(sought_.size()); }
@@ -40,9 +39,5 @@ class Hits {
   std::u32string sought_;
   std::vector<std::int64_t> places_;
 };
-
-/// `document` with `replacement` for each hit in it, in the format of the hit's first character. Neither `sought` nor
-/// `replacement` has line ends.
-[[nodiscard]] base::Document replacedIn(base::Document document, std::string_view sought, std::string_view replacement);
 
 }  // namespace editor

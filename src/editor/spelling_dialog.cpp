@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/text.h"
-#include "editor/word_replacement.h"
+#include "editor/text_replacement.h"
 #include "editor/words.h"
 
 namespace editor {
@@ -108,11 +108,14 @@ void stopAt(const SpellingParts& parts, std::u32string_view text, const Word& wo
   showWord(parts, text, word);
 }
 
-// Every position moves with the places before it.
-void follow(SpellingCheck& check, std::span<const base::TextSelection> places, std::int64_t growth) {
+// Every position moves with the places before it, each of which is `length` long now.
+void follow(SpellingCheck& check, std::span<const base::TextSelection> places, std::int64_t length) {
   const auto moved = [&](std::int64_t position) {
-    const auto isBefore = [position](base::TextSelection place) { return endOf(place) <= position; };
-    return position == kWholeText ? position : position + growth * std::ranges::count_if(places, isBefore);
+    std::int64_t result = position;
+    for (const base::TextSelection& place : places) {
+      if (position != kWholeText && endOf(place) <= position) result += length - place.length;
+    }
+    return result;
   };
   const std::int64_t end = moved(endOf(check.before));
   check.before.start = moved(check.before.start);
@@ -123,10 +126,11 @@ void follow(SpellingCheck& check, std::span<const base::TextSelection> places, s
 
 void replaceAt(const SpellingParts& parts, std::span<const base::TextSelection> places) {
   if (places.empty()) return;
-  const std::int64_t before = codePoints(parts.text.countAll());
-  replaceWords(parts.text, places, parts.window.txtErsetzen.text);
-  const std::int64_t growth = codePoints(parts.text.countAll()) - before;
-  follow(parts.window.check, places, growth / static_cast<std::int64_t>(places.size()));
+  std::int64_t around = codePoints(parts.text.countAll());
+  for (const base::TextSelection& place : places) around -= place.length;
+  replaceEach(parts.text, places, base::inOneLine(parts.window.txtErsetzen.text));
+  const std::int64_t replaced = codePoints(parts.text.countAll()) - around;
+  follow(parts.window.check, places, replaced / std::ssize(places));
 }
 
 std::vector<base::TextSelection> placesOfFound(const SpellingParts& parts) {

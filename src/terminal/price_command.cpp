@@ -39,9 +39,6 @@ namespace {
 using base::Event;
 using commands::MainParts;
 
-// Messages have a line for the place of a fault; in the terminal each is one line.
-std::string inOneLine(const std::string& message) { return base::replaceAll(message, "\n", " "); }
-
 // Of a regular file all at once, since a text that grows piece by piece stands in memory twice.
 std::string readAll(std::istream& stream, std::size_t expected, const std::string& name) {
   std::string bytes;
@@ -82,7 +79,10 @@ lifecycle::ProgramDirectory chosenDirectory(const PriceRequest& request) {
   return directory;
 }
 
-void tellNote(std::ostream& notes, const std::string& text) { notes << "tessik: Hinweis: " << inOneLine(text) << '\n'; }
+// Messages have a line for the place of a fault; in the terminal each is one line.
+void tellNote(std::ostream& notes, const std::string& text) {
+  notes << "tessik: Hinweis: " << base::inOneLine(text) << '\n';
+}
 
 // What is wrong with a stored count is told and passed over, as in the window; any other problem ends.
 void readSettings(lifecycle::Program& program, const PriceRequest& request, std::ostream& notes) {
@@ -223,7 +223,7 @@ int runPriceCommand(std::span<const std::string> arguments, const Streams& strea
     streams.error << "tessik: " << wrong.what() << " (tessik kalkuliere --help zeigt die Optionen)\n";
     return kExitWrongArgument;
   } catch (const std::exception& fault) {
-    streams.error << "tessik: " << inOneLine(base::asFailure(fault).text()) << '\n';
+    streams.error << "tessik: " << base::inOneLine(base::asFailure(fault).text()) << '\n';
     return kExitFailure;
   }
 }
