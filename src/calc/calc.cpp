@@ -155,9 +155,12 @@ void enableInputs(Run& run) {
   enable({&w.txtProzent, &w.txtRabatt, &w.txtProzentDM, &w.txtRabattDM, &w.cboAufpreis, &w.cboRabatt,
           &w.cmdAufpreisListe, &w.cmdRabatteListe},
          hasText && run.pricePerCharacter > 0);
-  enable({&w.mnuSave, &w.cmdSave, &w.mnuCut, &w.mnuCopy, &w.mnuCopyAll, &w.mnuDelete, &w.mnuMarkAll, &w.mnuSort},
+  enable({&w.mnuSave, &w.cmdSave, &w.mnuCut, &w.mnuCopy, &w.mnuCopyAll, &w.mnuDelete, &w.mnuMarkAll, &w.mnuSort,
+          &w.mnuSuchen, &w.mnuErsetzen, &w.mnuRechtschreibung, &w.mnuNotiz, &w.cmdNotiz},
          hasText);
-  w.mnuLeerzeilen.enabled = run.parts.document.countAll() != base::TextCount{};  // blank lines cost nothing
+  // Blank lines cost nothing, and neither does a blank that was found.
+  enable({&w.mnuLeerzeilen, &w.mnuWeitersuchen, &w.mnuZurücksuchen},
+         run.parts.document.countAll() != base::TextCount{});
 }
 
 }  // namespace

@@ -70,8 +70,10 @@ TEST(Editing, CommandsNeedALettering) {
   EXPECT_TRUE(w.mnuPaste.enabled && w.mnuPastePlain.enabled);
   EXPECT_FALSE(w.mnuCopyAll.enabled);
   EXPECT_FALSE(w.mnuCut.enabled || w.mnuCopy.enabled || w.mnuDelete.enabled || w.mnuMarkAll.enabled);
+  EXPECT_FALSE(w.mnuSuchen.enabled || w.mnuRechtschreibung.enabled || w.mnuNotiz.enabled || w.cmdNotiz.enabled);
   desk.click(w.mnuPaste);
   EXPECT_TRUE(w.mnuCut.enabled && w.mnuCopy.enabled && w.mnuDelete.enabled && w.mnuMarkAll.enabled);
+  EXPECT_TRUE(w.mnuSuchen.enabled && w.mnuRechtschreibung.enabled && w.mnuNotiz.enabled && w.cmdNotiz.enabled);
   desk.click(w.mnuMarkAll);
   desk.platform.clipboard = "";
   desk.platform.clipboardFormats.reset();

@@ -62,6 +62,7 @@ TEST(Walk, AllHitsAreReplacedPricedAndBroughtBackAtOnce) {
 TEST(Walk, AnOpenBarFollowsTheDocument) {
   const Shop shop;
   Walk walk(shop);
+  walk.type("Rad");
   walk.press(Qt::Key_F, Qt::ControlModifier);
   walk.type("ä");
   EXPECT_TRUE(walk.widget<QWidget>("lblKeinTreffer").isVisible());
