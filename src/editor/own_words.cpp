@@ -1,6 +1,8 @@
 // The file of the user's own words.
 #include "editor/own_words.h"
 
+#include <algorithm>
+
 #include "base/file_replacement.h"
 #include "base/files.h"
 #include "base/text.h"
