@@ -45,11 +45,19 @@ void makeWhite(QWidget& paper) {
   paper.setPalette(palette);
 }
 
+// Near the half inch of other programs, and such that an offer note in its type has all its values in one column.
+double tabWidth(const QPaintDevice& screen) {
+  constexpr double kPoints = 33.5;
+  constexpr double kPointsAnInch = 72;
+  return kPoints * screen.logicalDpiX() / kPointsAnInch;
+}
+
 }  // namespace
 
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), index_(*document()) {
   setAcceptRichText(false);
   makeWhite(*this);
+  setTabStopDistance(tabWidth(*this));
   document()->setUndoRedoEnabled(false);
   const QTextCharFormat fresh = toQt(base::CharFormat{});
   document()->setDefaultFont(fresh.font());
