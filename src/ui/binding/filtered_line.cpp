@@ -16,6 +16,12 @@ bool isTyped(const QKeyEvent& key) {
   return modifiers != Qt::ControlModifier && !key.text().isEmpty() && key.text().front().isPrint();
 }
 
+/// Alt with a letter; the toolkit's own line edit would type the letter.
+bool isAccessKey(const QKeyEvent& key) {
+  const bool hasAlt = key.modifiers().testFlag(Qt::AltModifier) && !key.modifiers().testFlag(Qt::ControlModifier);
+  return hasAlt && !key.text().isEmpty() && key.text().front().isPrint();
+}
+
 /// What an edit has put into a text.
 struct InsertedPiece {
   qsizetype start = 0;    // where the two texts begin to differ
@@ -57,9 +63,14 @@ std::optional<QString> FilteredLine::replacement(const QString& typed) const {
 }
 
 bool FilteredLine::eventFilter(QObject* /*watched*/, QEvent* event) {
-  if (event->type() != QEvent::KeyPress || edit_.isReadOnly() || !isFiltered()) return false;
+  if (event->type() != QEvent::KeyPress) return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);
-  if (!isTyped(key)) return false;
+  // That of a control which is disabled comes here.
+  if (isAccessKey(key)) {
+    event->ignore();
+    return true;
+  }
+  if (edit_.isReadOnly() || !isFiltered() || !isTyped(key)) return false;
   const auto instead = replacement(key.text());
   if (!instead) return false;
   if (!instead->isEmpty()) edit_.insert(*instead);
