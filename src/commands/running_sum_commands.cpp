@@ -49,6 +49,8 @@ void wireRunningSum(base::Wiring& wiring, const MainParts& parts) {
     wiring.on(window.*command.button, Event::click, reported(parts, command.buttonTag, command.run));
     wiring.on(window.*command.entry, Event::click, reported(parts, command.entryTag, command.run));
   }
+  wiring.on(window.cboCalc, Event::keyDelete,
+            reported(parts, "MAIN-cmdSub_Click", [](const MainParts& p) { calc::removeEntry(calcParts(p)); }));
   wiring.on(window.cboCalc, Event::rightPress, [&window] { window.mnuEditCalc.wantsToOpen = true; });
   wiring.on(window.mnuEditCalc, Event::menuClosed, [&window] { window.rtfText.wantsFocus = true; });
   wiring.on(window.lblRCalc, Event::mouseMove, [&window] { calc::describeSum(window); });

@@ -21,7 +21,12 @@ void tell(const MainParts& parts, std::string text, base::MessageIcon icon) {
   parts.platform.messageBox({.text = std::move(text), .title = "Rechtschreibung", .icon = icon});
 }
 
-// The word at which the check was left stays selected, to be worked on.
+// Where the check was left the caret stays behind the word; selected, it would be all that is priced.
+void leaveWord(base::RichText& text) {
+  const base::TextSelection word = text.selection();
+  text.select({.start = word.start + word.length, .length = 0});
+}
+
 void checkSpelling(const MainParts& parts) {
   if (!parts.spelling.isAvailable()) {
     return tell(parts,
@@ -34,6 +39,7 @@ void checkSpelling(const MainParts& parts) {
   findUnknown(check);
   const editor::CheckState& state = parts.spellingWindow.check.state;
   if (state == editor::CheckState::hasFound) parts.platform.showModal(parts.spellingWindow);
+  if (state == editor::CheckState::hasFound) leaveWord(parts.window.rtfText);
   calculate(parts);
   parts.window.rtfText.wantsFocus = true;
   if (state == editor::CheckState::hasEnded) {

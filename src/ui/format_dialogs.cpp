@@ -27,11 +27,11 @@ int answerOf(QDialog& dialog) {
 
 }  // namespace
 
-base::CharFormat chosenFont(const base::CharFormat& present) {
+base::CharFormat chosenFont(const base::CharFormat& present, QWidget* parent) {
   QFont drawn = toQt(present).font();
   // The dialog lists what is installed: instead of a typeface that is not it shows the one that is drawn.
   if (!QFontDatabase::hasFamily(drawn.family())) drawn.setFamilies({QFontInfo(drawn).family()});
-  QFontDialog dialog(drawn, QApplication::activeWindow());
+  QFontDialog dialog(drawn, parent);
   dialog.setWindowTitle(QStringLiteral("Schriftart"));
   const QFont shown = dialog.currentFont();
   answerOf(dialog);
@@ -46,8 +46,8 @@ base::CharFormat chosenFont(const base::CharFormat& present) {
   return result;
 }
 
-std::optional<base::Rgb> chosenColour(std::optional<base::Rgb> present) {
-  QColorDialog dialog(QColor::fromRgb(static_cast<QRgb>(present.value_or(0))), QApplication::activeWindow());
+std::optional<base::Rgb> chosenColour(std::optional<base::Rgb> present, QWidget* parent) {
+  QColorDialog dialog(QColor::fromRgb(static_cast<QRgb>(present.value_or(0))), parent);
   dialog.setWindowTitle(QStringLiteral("Schriftfarbe"));
   dialog.setOption(QColorDialog::DontUseNativeDialog);  // which has no place for our button
   auto* const buttons = dialog.findChild<QDialogButtonBox*>();

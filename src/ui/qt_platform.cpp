@@ -94,7 +94,7 @@ base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
   const Gate::ModalWait wait(gate_);
   setProgramIcon();
   QMessageBox box(icon(message.icon), toQString(message.title), inShownLines(message.text), buttons(message.buttons),
-                  QApplication::activeWindow());
+                  windows_.inFront());
   box.setTextFormat(Qt::PlainText);
   return answer(box.exec(), message.buttons);
 }
@@ -102,7 +102,7 @@ base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
 std::optional<std::string> QtPlatform::inputBox(const base::InputQuestion& question) {
   constexpr int kColumns = 70;
   const Gate::ModalWait wait(gate_);
-  QInputDialog dialog(QApplication::activeWindow());
+  QInputDialog dialog(windows_.inFront());
   dialog.setWindowTitle(toQString(question.title));
   dialog.setLabelText(toQString(question.text));
   dialog.setTextValue(toQString(question.suggestion));
@@ -115,25 +115,24 @@ std::optional<std::string> QtPlatform::inputBox(const base::InputQuestion& quest
 
 std::string QtPlatform::askOpenFile(const base::FileQuestion& question) {
   const Gate::ModalWait wait(gate_);
-  return chosen(QFileDialog::getOpenFileName(QApplication::activeWindow(), toQString(question.title),
-                                             start(question.suggestion), nameFilters(question.filter)));
+  return chosen(QFileDialog::getOpenFileName(windows_.inFront(), toQString(question.title), start(question.suggestion),
+                                             nameFilters(question.filter)));
 }
 
 std::string QtPlatform::askSaveFile(const base::FileQuestion& question) {
   const Gate::ModalWait wait(gate_);
-  return chosen(QFileDialog::getSaveFileName(QApplication::activeWindow(), toQString(question.title),
-                                             start(question.suggestion), nameFilters(question.filter), nullptr,
-                                             QFileDialog::DontConfirmOverwrite));
+  return chosen(QFileDialog::getSaveFileName(windows_.inFront(), toQString(question.title), start(question.suggestion),
+                                             nameFilters(question.filter), nullptr, QFileDialog::DontConfirmOverwrite));
 }
 
 base::CharFormat QtPlatform::askFont(const base::CharFormat& present) {
   const Gate::ModalWait wait(gate_);
-  return chosenFont(present);
+  return chosenFont(present, windows_.inFront());
 }
 
 std::optional<base::Rgb> QtPlatform::askColour(std::optional<base::Rgb> present) {
   const Gate::ModalWait wait(gate_);
-  return chosenColour(present);
+  return chosenColour(present, windows_.inFront());
 }
 
 void QtPlatform::show(base::Window& window) {

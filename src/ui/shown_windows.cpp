@@ -1,6 +1,7 @@
 // The windows on the screen.
 #include "ui/shown_windows.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QEvent>
 #include <algorithm>
@@ -126,8 +127,15 @@ void ShownWindows::closed(Entry& entry) {
   std::erase(open_, &entry);
 }
 
+QWidget* ShownWindows::inFront() const {
+  QWidget* const active = QApplication::activeWindow();
+  if (active != nullptr) return active;
+  return lastActive_ != nullptr && lastActive_->isVisible() ? lastActive_.data() : nullptr;
+}
+
 // Whoever hides a window, the program or the person; a minimised one is hidden by the desktop and stays open.
 bool ShownWindows::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) lastActive_ = static_cast<QWidget*>(watched);
   if (event->type() == QEvent::Hide && !event->spontaneous()) {
     const auto entry =
         std::find_if(entries_.begin(), entries_.end(), [&](const auto& each) { return each->widget == watched; });

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -42,6 +43,10 @@ class ShownWindows : public QObject {
   /// The newest last.
   [[nodiscard]] std::vector<base::Window*> open() const;
 
+  /// The window that a box belongs to: the one with the keys or, between two boxes, when none has them, the last that
+  /// had.
+  [[nodiscard]] QWidget* inFront() const;
+
   /// What becomes of the other windows when one refuses to close.
   enum class Refusal { ends, isPassedOver };
   /// Closes every open window but `last`, the newest first; false when one refuses.
@@ -74,6 +79,7 @@ class ShownWindows : public QObject {
   Sync& sync_;
   std::vector<std::unique_ptr<Entry>> entries_;
   std::vector<Entry*> open_;  // the newest last
+  QPointer<QWidget> lastActive_;
 };
 
 }  // namespace ui
