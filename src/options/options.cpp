@@ -59,7 +59,7 @@ void load(const OptionsParts& parts) {
   window.txtRGF.text = std::to_string(editor::undoDepth(settings.user.undoDepth));
   showUnit(window.cboMaßeinheit, settings.rates.unit);
   choose(window.optYes2, window.optNo2, settings.rates.countBlanks == 1);
-  choose(window.optYES, window.optNo, settings.calculatorInFront != 0);
+  choose(window.optYES, window.optNo, settings.calculatorInFront == 1);
   showSound(window, settings.reminderSound);
   showHint(window.lblHinweis, "");
   forBothSides(parts, loadSide);
