@@ -141,10 +141,7 @@ int rowOf(const std::vector<base::Volume>& volumes, const std::string& path) {
 void listDrives(BackupWindow& window, base::Platform& platform) {
   window.volumes = platform.volumes();
   window.Drive1.clear();
-  for (base::Volume& volume : window.volumes) {
-    volume.path = tidied(volume.path);
-    window.Drive1.items.add(volume.name);
-  }
+  for (const base::Volume& volume : window.volumes) window.Drive1.items.add(volume.name);
 }
 
 // The directory chosen last, as far as it is there.

@@ -37,8 +37,10 @@ std::string named(const QString& name, const QString& path) {
 
 std::vector<base::Volume> volumes() {
   const QString home = QDir::homePath();
-  std::vector<base::Volume> found = {{named(QStringLiteral("Persönlicher Ordner"), home), toUtf8(home)},
-                                     {named(QStringLiteral("Dieser Rechner"), QStringLiteral("/")), "/"}};
+  const QString canonicalHome = QDir(home).canonicalPath();
+  std::vector<base::Volume> found = {
+      {named(QStringLiteral("Persönlicher Ordner"), home), toUtf8(canonicalHome.isEmpty() ? home : canonicalHome)},
+      {named(QStringLiteral("Dieser Rechner"), QStringLiteral("/")), "/"}};
   const std::unique_ptr<FILE, int (*)(FILE*)> table(::setmntent("/proc/self/mounts", "r"), &::endmntent);
   while (const mntent* const mount = table ? ::getmntent(table.get()) : nullptr) {
     if (!isForPeople(*mount)) continue;
