@@ -2,6 +2,7 @@
 #include "commands/options_commands.h"
 
 #include "calc/adjustments.h"
+#include "commands/price_list_commands.h"
 #include "commands/tool_commands.h"
 #include "options/options.h"
 
@@ -15,6 +16,7 @@ void edit(const MainParts& parts) {
                         .reporter = parts.reporter});
   calc::refillAdjustments(parts.window, parts.settings.adjustments);
   followCalculatorSetting(parts);
+  followRates(parts);
   calculate(parts);
 }
 

@@ -55,6 +55,10 @@ void readPricesAgain(const MainParts& parts) {
   calculate(parts);
 }
 
+void readFoilsAgain(const MainParts& parts) { pricelists::readRollGoodsAgain(goodsOf(parts)); }
+
+void followRates(const MainParts& parts) { pricelists::followRates(goodsOf(parts)); }
+
 void wirePriceLists(base::Wiring& wiring, const MainParts& parts) {
   pricelists::wirePriceTable(wiring, editorOf(parts));
   pricelists::wireRollGoods(wiring, goodsOf(parts));

@@ -14,4 +14,10 @@ void EditDatabase(const MainParts& parts);
 /// there still, else the first, and the calculation runs. The reload reports its failure itself.
 void readPricesAgain(const MainParts& parts);
 
+/// Roll goods that are open read their list again, in place of what was not saved. A failure is reported.
+void readFoilsAgain(const MainParts& parts);
+
+/// Roll goods that are open are calculated again; to be called when the rates have changed.
+void followRates(const MainParts& parts);
+
 }  // namespace commands

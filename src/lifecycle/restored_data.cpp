@@ -86,9 +86,10 @@ void readRestored(Program& program, const std::vector<Kind>& kinds) {
   errors::reporting(program.reporter, kBackupTag, [&] { readSettingsAgain(program, files); });
   if (!files.empty()) calc::refillAdjustments(parts.window, program.settings.adjustments);
   commands::followCalculatorSetting(parts);
-  errors::reporting(program.reporter, kBackupTag, [&] {
-    contains(kinds, Kind::prices) ? commands::readPricesAgain(parts) : commands::calculate(parts);
-  });
+  const bool havePrices = contains(kinds, Kind::prices);
+  havePrices ? commands::readFoilsAgain(parts) : commands::followRates(parts);
+  errors::reporting(program.reporter, kBackupTag,
+                    [&] { havePrices ? commands::readPricesAgain(parts) : commands::calculate(parts); });
 }
 
 }  // namespace lifecycle

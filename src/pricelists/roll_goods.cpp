@@ -1,6 +1,8 @@
 // Roll goods.
 #include "pricelists/roll_goods.h"
 
+#include <algorithm>
+
 #include "base/number.h"
 #include "base/text.h"
 #include "calc/adjustments.h"
@@ -130,6 +132,21 @@ std::string rollGoodsNote(const RollGoodsWindow& window, const settings::Rates& 
   note += line("Nettopreis in EURO: ", 2, euro(net));
   note += line("Bruttopreis in EURO: ", 2, euro(gross));
   return note + end + std::string(kRuleLength, '-') + end + end;
+}
+
+void readRollGoodsAgain(const RollGoods& goods) {
+  RollGoodsWindow& window = goods.window;
+  if (!window.isOpen) return;
+  const std::string former = selectedOf(window, window.List1);
+  openPriceTable(foilTable(goods));
+  const base::ItemList& foils = window.List1.items;
+  const auto row = static_cast<int>(std::find(foils.begin(), foils.end(), former) - foils.begin());
+  window.List1.current = window.List2.current = foils.holds(row) ? row : -1;
+  calculation(goods)();
+}
+
+void followRates(const RollGoods& goods) {
+  if (goods.window.isOpen) calculation(goods)();
 }
 
 void showRollGoods(const RollGoods& goods) {

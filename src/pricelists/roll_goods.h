@@ -62,6 +62,13 @@ void wireRollGoods(base::Wiring& wiring, const RollGoods& goods);
 /// Shows the window beside the others; one that is open already comes to the front as it is.
 void showRollGoods(const RollGoods& goods);
 
+/// To be called when another price file is in place: a window that is open reads it, in place of what was not saved.
+/// The foil that was selected is so again if it is there still.
+void readRollGoodsAgain(const RollGoods& goods);
+
+/// To be called when the rates have changed: a window that is open goes by them.
+void followRates(const RollGoods& goods);
+
 /// What the window shows as a block of text. The amounts in its information are divided by the mark's rate although
 /// they are in euro.
 std::string rollGoodsNote(const RollGoodsWindow& window, const settings::Rates& rates,

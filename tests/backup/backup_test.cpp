@@ -23,7 +23,9 @@ constexpr const char* kGeneral =
 constexpr const char* kLists =
     "[Einstellungen]\r\nIndexp1=1\r\nIndexp2=0\r\n[Rabatte]\r\n10 %\r\n[RabatteTip]\r\nEil\r\n[Rabatte2]\r\n3 %\r\n"
     "[RabatteTip2]\r\nStamm\r\n";
-constexpr const char* kPrices = "[Versalien]\r\n0=50\r\n1=100\r\n[Preise]\r\n0=1.25\r\n1=2.50\r\n";
+constexpr const char* kPrices =
+    "[Versalien]\r\n0=50\r\n1=100\r\n[Preise]\r\n0=1.25\r\n1=2.50\r\n"
+    "[Folien]\r\n0=Matt\r\n1=Glanz\r\n[FPreise]\r\n0=1.00\r\n1=2.00\r\n";
 
 struct Shop : TemporaryDirectory {
   Shop() {
@@ -180,12 +182,18 @@ TEST(Backup, WhatWasRestoredHoldsAtOnceAndTheRestStays) {
   shop.write("stick/Ostrowerk.ini",
              "[Einstellungen]\r\nMwst=7\r\nMaßeinheit=cm\r\nIndex1=2\r\nIndex2=1\r\nTVorn=1\r\nLZ=0\r\nSnd=y.wav\r\n");
   shop.write("stick/Tessik.ini", "[Einstellungen]\r\nIndexp1=1\r\nIndexp2=0\r\n[Rabatte]\r\n7 %\r\n8 %\r\n");
-  shop.write("stick/Tessik.pdb", "[Versalien]\r\n0=30\r\n1=100\r\n[Preise]\r\n0=1\r\n1=9.00\r\n");
+  shop.write("stick/Tessik.pdb",
+             "[Versalien]\r\n0=30\r\n1=100\r\n[Preise]\r\n0=1\r\n1=9.00\r\n"
+             "[Folien]\r\n0=Glanz\r\n[FPreise]\r\n0=10.00\r\n");
   BackupDesk desk(shop);
   desk.window.cboBuchstabenhöhe.select(1);
   desk.write("ab c");
   EXPECT_EQ(desk.window.lblPreisNettoGesamt.text, "10,00 EUR");
   desk.program.settings.rates.unit = "Zoll";
+  pricelists::RollGoodsWindow& rollGoods = desk.program.windows.rollGoods;
+  desk.click(desk.window.mnuVoll);
+  rollGoods.List1.current = 1;
+  desk.click(rollGoods.List1);
   const std::string all = "Einstellungen\r\nRabatte\r\nPreise\r\n";
   desk.whileOpen([&] {
     desk.restoreMode();
@@ -196,6 +204,7 @@ TEST(Backup, WhatWasRestoredHoldsAtOnceAndTheRestStays) {
     desk.click(desk.backup.cmdBackup);
     EXPECT_EQ(desk.window.lblPreisNettoGesamt.text, "36,00 EUR");
     EXPECT_EQ(desk.window.cboAufpreis.items[1], "7 %");
+    EXPECT_EQ(rollGoods.lblPBrutto.text, "11,60 EUR") << "an open list is read anew, its foil stays";
     EXPECT_EQ(desk.program.settings.adjustments.discounts.amount(1), "") << "the arrays are emptied first";
     EXPECT_EQ(desk.program.settings.rates.unit, "Zoll") << "not restored";
     desk.tick(true, false, false, false);
@@ -205,6 +214,7 @@ TEST(Backup, WhatWasRestoredHoldsAtOnceAndTheRestStays) {
   });
   EXPECT_EQ(desk.window.lblPreisNettoGesamt.text, "27,00 EUR") << "blanks cost nothing any more";
   EXPECT_EQ(desk.window.lblMwstG.text, "1,89 EUR");
+  EXPECT_EQ(rollGoods.lblPBrutto.text, "10,70 EUR");
   EXPECT_EQ(desk.window.cboAufpreis.items.size(), 3);
   EXPECT_TRUE(desk.program.windows.calculator.staysOnTop);
   desk.platform.expectAnyMessage(MessageAnswer::no);
