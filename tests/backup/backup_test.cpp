@@ -138,6 +138,10 @@ TEST(Backup, TheQuestionNamesAllThatIsThereAndNoCopiesNothing) {
     desk.expectSuccess();
     desk.click(desk.backup.cmdBackup);
   });
+  desk.whileOpen([&] {
+    desk.ask("Speicherort", "Termine\r\nEinstellungen\r\nPreise\r\n", "sichern", MessageAnswer::no);
+    desk.click(desk.backup.cmdBackup);
+  });
   EXPECT_EQ(shop.read("stick/Termine.ini") + shop.read("stick/Tessik.pdb"), "neualt");
 }
 
@@ -207,9 +211,10 @@ TEST(Backup, WhatWasRestoredHoldsAtOnceAndTheRestStays) {
     EXPECT_EQ(rollGoods.lblPBrutto.text, "11,60 EUR") << "an open list is read anew, its foil stays";
     EXPECT_EQ(desk.program.settings.adjustments.discounts.amount(1), "") << "the arrays are emptied first";
     EXPECT_EQ(desk.program.settings.rates.unit, "Zoll") << "not restored";
-    desk.tick(true, false, false, false);
+    desk.tick(true, true, false, false);
     desk.ask("Wiederherstellungsort", all, "wiederherstellen", MessageAnswer::yes);
-    desk.expectSuccess();
+    desk.expect("Die Datei wurde nicht gefunden.\n" + shop.path("stick/Termine.ini") + " (Fehler 53)", "Fehler I/O",
+                MessageIcon::stop);
     desk.click(desk.backup.cmdBackup);
   });
   EXPECT_EQ(desk.window.lblPreisNettoGesamt.text, "27,00 EUR") << "blanks cost nothing any more";

@@ -96,6 +96,9 @@ TEST(Options, RowsAndSlotsPartOnPurpose) {
       const auto inputs = [&] { return side.add.text + "|" + side.amount.text + "|" + side.remark.text; };
       desk.click(side.menuPick);
       EXPECT_EQ(inputs(), "Ändern|3|3") << "the newest is marked";
+      desk.add(side, "4", "vier");
+      EXPECT_EQ(side.stored.described(3) + inputs(), "4.00 EUR -> vier&Hinzufügen||");
+      desk.click(side.menuPick);
       desk.click(side.list);
       EXPECT_EQ(inputs(), "Hinzufügen||");
       side.list.current = 1;
@@ -116,8 +119,16 @@ TEST(Options, RowsAndSlotsPartOnPurpose) {
       EXPECT_EQ(side.count.text + side.list.items[100], "100/1009.00 EUR -> k.A.");
       desk.add(side, "1", "x");
       EXPECT_EQ(side.list.items.size(), 101);
+      EXPECT_EQ(desk.program.wiring.tipOf(side.list, 0) + desk.program.wiring.tipOf(side.list, 2), "2.00 EUR -> 2");
+      desk.platform.expectMessage(
+          {.text = "Sind Sie sicher das Sie alle Werte entfernen möchten?",
+           .title = &side.list == &desk.dialog.cboRabatt ? "Rabatte löschen" : "Aufpreise löschen",
+           .icon = base::MessageIcon::question,
+           .buttons = base::MessageButtons::yesNo},
+          base::MessageAnswer::yes);
+      desk.click(side.clear);
+      EXPECT_EQ(side.stored.described(1) + side.stored.described(100) + side.count.text, "1/100");
     });
-    EXPECT_EQ(desk.program.wiring.tipOf(side.list, 0) + desk.program.wiring.tipOf(side.list, 2), "2.00 EUR -> 2");
   }
 }
 
@@ -147,7 +158,9 @@ TEST(Options, ValuesHoldOnceTheyAreValidAndChoicesOnceTheDialogCloses) {
     desk.dialog.optYes2.checked = false;
     desk.dialog.optYES.checked = true;
     desk.dialog.txtFirmaAnschrift.text = "nicht übernommen";
+    desk.dialog.txtEingabeRR.text = "5";
   });
+  EXPECT_EQ(desk.dialog.txtEingabeRR.text, "") << "a pending discount is cancelled";
   EXPECT_EQ(settings.rates.vatPercent, 99);
   EXPECT_EQ(settings.rates.unit + settings.user.undoDepth + settings.user.companyAddress, "mmviele");
   EXPECT_EQ(settings.rates.countBlanks * 2 + settings.calculatorInFront, 1);
@@ -158,6 +171,14 @@ TEST(Options, ValuesHoldOnceTheyAreValidAndChoicesOnceTheDialogCloses) {
   EXPECT_EQ(desk.window.cboAufpreis.selected, 3);
   desk.open([&] { settings.adjustments.surcharges.amounts = {"5 %"}; });
   EXPECT_EQ(desk.window.cboAufpreis.text, "0.00 EUR");
+
+  desk.open([&] {
+    settings.rates.unit = "cm";
+    desk.platform.expectAnyMessage(base::MessageAnswer::yes);
+    desk.click(desk.dialog.cmdAbbrechen);
+    EXPECT_EQ(settings.rates.unit + std::to_string(settings.rates.vatPercent), "mm19");
+    EXPECT_TRUE(desk.dialog.optYes2.checked && desk.dialog.optNo.checked);
+  });
 }
 
 }  // namespace
