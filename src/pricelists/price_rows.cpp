@@ -6,6 +6,7 @@
 
 #include "base/failure.h"
 #include "base/number.h"
+#include "base/profile_lines.h"
 #include "base/text.h"
 #include "calc/adjustments.h"
 
@@ -16,14 +17,8 @@ using base::ErrorNumber;
 using base::Failure;
 
 constexpr std::string_view kFree = "<FREI>";
-constexpr std::string_view kBlanks = " \t\v\f";
 constexpr std::size_t kNameColumn = 40;
 constexpr std::size_t kPriceColumn = 25;
-
-std::string_view withoutOuterBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  return first == std::string_view::npos ? "" : text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
 
 // The blanks that fill `text` up to `width` characters; none may be missing.
 std::string padding(std::string_view text, std::size_t width) {
@@ -43,8 +38,8 @@ std::string rowName(std::string_view typed) {
 }
 
 bool leavesNoName(std::string_view name) {
-  const std::string_view left = withoutOuterBlanks(name);
-  return left.empty() || left == "\"\"" || left == "''";
+  const std::string_view left = base::withoutOuterBlanks(name);
+  return left.empty() || left.front() == '\0' || left == "\"\"" || left == "''";
 }
 
 std::string preparedPrice(std::string_view typed) {
@@ -66,7 +61,7 @@ std::string typedPrice(std::string_view price, const base::NumberFormat& format)
   return base::replaceAll({digits.data(), end}, ".", format.decimalSeparator);
 }
 
-std::string trimmedPrice(std::string_view price) { return std::string(withoutOuterBlanks(price)); }
+std::string trimmedPrice(std::string_view price) { return std::string(base::withoutOuterBlanks(price)); }
 
 std::optional<char32_t> priceKey(char32_t key) {
   if (key == U',' || key == U'.') return U',';
