@@ -43,7 +43,7 @@ TEST(Walk, ThePriceListIsEditedSavedAndPricesTheLettering) {
     EXPECT_EQ(textOf(editor, "Label3"), "Eintrag: 0/2");
     EXPECT_FALSE(part(editor, "Command1").isEnabled());
     for (int row = 0; row < 40; ++row) {
-      walk.type("7" + QString::number(row));
+      walk.type(row < 39 ? "7" + QString::number(row) : QString(250, 'W'));
       walk.press(Qt::Key_Return);
       walk.type("1.5a");
       EXPECT_EQ(textOf(editor, "txtpreis"), "1,5");
@@ -52,6 +52,10 @@ TEST(Walk, ThePriceListIsEditedSavedAndPricesTheLettering) {
     EXPECT_EQ(textOf(editor, "Label3"), "Eintrag: 42/42");
     EXPECT_GT(scrolled(editor, "List1"), 0);
     EXPECT_EQ(scrolled(editor, "List1"), scrolled(editor, "List2"));
+    clickRow(editor, "List1", 41, true);
+    EXPECT_LT(editor.minimumSizeHint().width(), 1000);
+    walk.type("739");
+    QTest::mouseClick(&part(editor, "Command1"), Qt::LeftButton);
     QTest::mouseClick(&part(editor, "Command3"), Qt::LeftButton);
     EXPECT_TRUE(QApplication::clipboard()->text().startsWith("\r\n\r\nVersalienhöhe"));
     static_cast<QAbstractItemView&>(part(editor, "List2")).verticalScrollBar()->setValue(0);

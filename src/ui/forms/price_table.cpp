@@ -5,7 +5,6 @@
 #include <QScrollBar>
 #include <QStyle>
 
-#include "ui/widgets/sign_label.h"
 #include "ui_price_table.h"
 
 namespace ui {
@@ -47,10 +46,6 @@ PriceTable::PriceTable(QWidget* parent) : QWidget(parent), drawn_(drawnOn(*this)
   scrollTogether(*drawn_->List2, *drawn_->List1);
   drawn_->List1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   drawn_->fixStrich->setSeparator(true);
-  makeSign(*drawn_->lblHinweis, WhenHidden::keepsPlace);
-  QFont bold = drawn_->lblZustand->font();
-  bold.setBold(true);
-  drawn_->lblZustand->setFont(bold);
   QSizePolicy keepsPlace = drawn_->Progress1->sizePolicy();
   keepsPlace.setRetainSizeWhenHidden(true);
   drawn_->Progress1->setSizePolicy(keepsPlace);
