@@ -79,6 +79,12 @@ TEST_F(PriceEditor, RowsAreAddedInsertedChangedAndDeleted) {
       {[&] { choose(1), fill("", "9"), click(window.Command1); }, second, 1},
       {[&] { select(2), click(window.cmdDelete); }, "10 = 1.25 EUR | 20 = 2.50 EUR* | Eintrag: 2/2"},
       {[&] { select(0), click(window.mnuLöschen); }, "20 = 2.50 EUR | 30 = 3 | Eintrag: 0/2"},
+      {[&] { fill("a\r\nb", "1"), click(window.cmdAdd), select(0), click(window.cmdDelete), select(1); },
+       "20 = 2.50 EUR | 30 = 3* | a b = 1.00 EUR | Eintrag: 2/3"},
+      {[&] {
+         for (choose(2); !window.List1.items.empty(); click(window.cmdDelete)) select(0);
+       },
+       "Eintrag: 0/0"},
   };
   for (const Row& row : rows) {
     session.platform.beeps = 0;
@@ -96,24 +102,36 @@ TEST_F(PriceEditor, RowsAreAddedInsertedChangedAndDeleted) {
 TEST_F(PriceEditor, SavingKeepsTheRestOfTheFileAndPricesAnew) {
   session.start();
   session.write("AB");
-  directory.write("Tessik.pdb", kFile);
+  const std::string samples =
+      "[Fremd]\nx=1\n[Muster]\nPreise=1\n[Versalien]\n0=10\n1=20\n2=30\n3=' '\n[Preise]\n0=1,25 EUR\n1=2.50 EUR\n2=3\n"
+      "[Folien]\n0=Matt\n";
+  directory.write("Tessik.pdb", samples);
   commands::EditDatabase(session.parts);
   session.choose(session.window.cboBuchstabenhöhe, 2);
-  edit([&] {
-    choose(1);
-    EXPECT_EQ(window.txtVersalie.text + " " + window.txtpreis.text, "20 2,5");
-    EXPECT_FALSE(window.cmdAdd.enabled || window.mnuHinzufügen.enabled || window.Command2.enabled);
-    EXPECT_EQ(window.Command1.text + window.mnuEinfügen.text, "&Ändern&Ändern");
-    fill("30", "7");
-    session.click(window.Command1);
-    select(0);
-    session.click(window.cmdDelete);
-    session.click(window.Command2);
-  });
+  EXPECT_EQ(session.window.lblHinweis.text, calc::kSamplesHint);
+  edit(
+      [&] {
+        EXPECT_TRUE(window.lblListe.text.ends_with(calc::kSamplesHint));
+        choose(1);
+        EXPECT_EQ(window.txtVersalie.text + " " + window.txtpreis.text, "20 2,5");
+        EXPECT_TRUE(window.txtVersalie.wantsFocus && window.txtVersalie.wantsSelectAll);
+        EXPECT_FALSE(window.cmdAdd.enabled || window.mnuHinzufügen.enabled || window.Command2.enabled);
+        EXPECT_EQ(window.Command1.text + window.mnuEinfügen.text, "&Ändern&Ändern");
+        fill("30", "7");
+        session.click(window.Command1);
+        select(0);
+        session.click(window.cmdDelete);
+        session.click(window.Command2);
+      },
+      samples);
   EXPECT_EQ(directory.read("Tessik.pdb"),
-            "[Fremd]\nx=1\n[Folien]\n0=Matt\n[Versalien]\n0=30\n1=30\n[Preise]\n0=7.00 EUR\n1=3\n");
+            "[Fremd]\nx=1\n[Folien]\n0=Matt\n[Versalien]\n0=30\n1=30\n2=\" \"\n[Preise]\n0=7.00 EUR\n1=3\n2=\n");
+  EXPECT_EQ(session.window.lblHinweis.text, "");
   EXPECT_EQ(session.window.cboBuchstabenhöhe.selected, 0) << "the first of that height";
   EXPECT_EQ(session.window.lblPreisNettoGesamt.text, "14,00 EUR");
+  session.window.cboBuchstabenhöhe.text = "weg";
+  commands::readPricesAgain(session.parts);
+  EXPECT_EQ(session.window.cboBuchstabenhöhe.selected, 0);
 }
 
 TEST_F(PriceEditor, AListThatWasNotReadWholeIsNeverWritten) {
@@ -125,7 +143,7 @@ TEST_F(PriceEditor, AListThatWasNotReadWholeIsNeverWritten) {
         fill("11", "1");
         session.click(window.Command1);
         EXPECT_EQ(shown(), "11 = 1.00 EUR* | Eintrag: 1/1");
-        EXPECT_FALSE(window.Command2.enabled);
+        EXPECT_FALSE(window.Command2.enabled || window.Command3.enabled);
       },
       broken);
   EXPECT_EQ(directory.read("Tessik.pdb"), broken);
@@ -158,11 +176,13 @@ TEST_F(PriceEditor, ClosingAsksOnceAndAFailedSaveLosesNothing) {
 
 TEST_F(PriceEditor, TheListIsFullAndClearedAndListed) {
   edit([&] {
-    session.platform.expectMessage({.text = "Sind Sie sicher das Sie alle Werte entfernen möchten?",
-                                    .title = "Alle Preise löschen",
-                                    .icon = base::MessageIcon::question,
-                                    .buttons = base::MessageButtons::yesNo},
-                                   MessageAnswer::yes);
+    for (const MessageAnswer answer : {MessageAnswer::no, MessageAnswer::yes}) {
+      session.platform.expectMessage({.text = "Sind Sie sicher das Sie alle Werte entfernen möchten?",
+                                      .title = "Alle Preise löschen",
+                                      .icon = base::MessageIcon::question,
+                                      .buttons = base::MessageButtons::yesNo},
+                                     answer);
+    }
     bool barWasSeen = false;
     session.platform.onRefresh = [&] { barWasSeen = window.Progress1.visible && window.Progress1.maximum == 2; };
     session.click(window.Command3);
@@ -176,7 +196,9 @@ TEST_F(PriceEditor, TheListIsFullAndClearedAndListed) {
     }
     fill("y", "1");
     for (int i = 0; i < 2; ++i) session.click(window.cmdAdd);
-    EXPECT_EQ(window.Label3.text + "." + std::to_string(session.platform.beeps), "Eintrag: 32001/32001.1");
+    session.click(window.Command1);
+    session.click(window.cmdUpdate);
+    EXPECT_EQ(window.Label3.text + "." + std::to_string(session.platform.beeps), "Eintrag: 32001/32001.3");
     session.click(window.cmdUpdate);
     EXPECT_EQ(window.Label3.text, "Eintrag: 0/0");
     EXPECT_FALSE(window.Command3.enabled);

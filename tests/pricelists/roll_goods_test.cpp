@@ -45,6 +45,9 @@ TEST(RollGoods, AreToldToTheContainerLineByLine) {
   desk.click(window.Option2);
   desk.type(window.txtHöhe, "100,0");
   desk.type(window.txtBreite, "50");
+  desk.type(window.txtStück, "0");
+  desk.program.wiring.fire(window.txtStück, base::Event::leaving);
+  EXPECT_EQ(window.txtStück.text, "1");
   desk.type(window.txtStück, "4");
   for (int i = 0; i < 2; ++i) desk.click(window.cmdNotiz);
   const std::string note =
