@@ -55,7 +55,7 @@ std::string preparedPrice(std::string_view typed) {
 
 std::string typedPrice(std::string_view price, const base::NumberFormat& format) {
   std::array<char, 400> digits{};
-  const auto end =
+  const char* const end =
       std::to_chars(digits.data(), digits.data() + digits.size(), base::leadingNumber(price), std::chars_format::fixed)
           .ptr;
   return base::replaceAll({digits.data(), end}, ".", format.decimalSeparator);
