@@ -53,8 +53,18 @@ void calculate(const RollGoods& goods) {
   window.lblPBrutto.text = base::euroText(calc::grossTotal(window.Gesamtpreis, goods.rates.vatPercent), format);
 }
 
+// A field that comes to 0 is not finished yet.
+void calculateTyped(const RollGoods& goods, const base::TextBox& field) {
+  if (base::leadingNumber(field.text) != 0) calculate(goods);
+}
+
+template <typename Run>
+void reporting(const RollGoods& goods, Run run) {
+  errors::reporting(goods.reporter, "VOLL-calc", run);
+}
+
 base::Wiring::Procedure calculation(const RollGoods& goods) {
-  return [goods] { errors::reporting(goods.reporter, "VOLL-calc", [&] { calculate(goods); }); };
+  return [goods] { reporting(goods, [&] { calculate(goods); }); };
 }
 
 PriceTable foilTable(const RollGoods& goods) {
@@ -66,9 +76,7 @@ void wireInputs(base::Wiring& wiring, const RollGoods& goods) {
   const auto run = calculation(goods);
   for (base::TextBox* const box : {&window.txtHöhe, &window.txtBreite, &window.txtStück}) {
     wiring.filter(*box, calc::amountKey);
-    wiring.on(*box, Event::changed, [box, run] {
-      if (base::leadingNumber(box->text) != 0) run();
-    });
+    wiring.on(*box, Event::changed, [goods, box] { reporting(goods, [&] { calculateTyped(goods, *box); }); });
     wiring.on(*box, Event::leaving, run);
   }
 }

@@ -77,7 +77,10 @@ bool Binding::answersCharacter(const QKeyEvent& key) {
 bool Binding::answersKeyDown(const QKeyEvent& key) {
   if (answersCharacter(key)) return true;
   const auto own = eventOf(key);
-  return own && answers(*own);
+  if (!own) return false;
+  // Held down, a key that takes rows away would take them all.
+  const bool repeats = key.isAutoRepeat() && (*own == Event::keyDelete || *own == Event::keyInsert);
+  return repeats ? handles(*own) : answers(*own);
 }
 
 void Binding::answerKeyUp(const QKeyEvent& key) {
