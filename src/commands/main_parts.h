@@ -40,6 +40,7 @@ struct MainParts {
   editor::UndoStore& containerUndo;
   pricelists::PriceEditorWindow& priceEditor;
   pricelists::RollGoodsWindow& rollGoods;
+  pricelists::CsvImportWindow& csvImport;
   editor::SpellingWindow& spellingWindow;
   editor::Spelling& spelling;
   editor::SortWindow& sort;

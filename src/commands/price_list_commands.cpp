@@ -13,11 +13,13 @@ namespace {
 using base::Event;
 
 pricelists::PriceTable editorOf(const MainParts& parts) {
-  return pricelists::priceEditor(parts.priceEditor, parts.paths, parts.settings.rates, parts.platform, parts.reporter);
+  return pricelists::priceEditor(parts.priceEditor, parts.csvImport, parts.paths, parts.settings.rates, parts.platform,
+                                 parts.reporter);
 }
 
 pricelists::RollGoods goodsOf(const MainParts& parts) {
   return {.window = parts.rollGoods,
+          .csvImport = parts.csvImport,
           .paths = parts.paths,
           .rates = parts.settings.rates,
           .platform = parts.platform,
@@ -62,6 +64,7 @@ void followRates(const MainParts& parts) { pricelists::followRates(goodsOf(parts
 void wirePriceLists(base::Wiring& wiring, const MainParts& parts) {
   pricelists::wirePriceTable(wiring, editorOf(parts));
   pricelists::wireRollGoods(wiring, goodsOf(parts));
+  pricelists::wireCsvImport(wiring, parts.csvImport, parts.platform);
   const frame::MainWindow& window = parts.window;
   const auto edit = reported(parts, "MAIN-mnuDatenbank_Click", editPrices);
   wiring.on(window.mnuDatenbank, Event::click, edit);

@@ -25,7 +25,9 @@ bool isText(std::string_view bytes) {
   return isWide || bytes.find('\0') == std::string_view::npos;
 }
 
-std::string withSuffix(const std::string& name) { return name.ends_with(".rtf") ? name : name + ".rtf"; }
+std::string withSuffix(std::string name, std::string_view suffix) {
+  return name.ends_with(suffix) ? name : name.append(suffix);
+}
 
 bool mayReplace(const std::string& path, base::Platform& platform) {
   if (!base::FileExists(path)) return true;
@@ -39,15 +41,6 @@ base::Document readDocument(const std::string& path) {
   if (!bytes) throw base::fileFailure(base::ErrorNumber::fileNotFound, path);
   if (!isText(*bytes)) throw base::fileFailure(base::ErrorNumber::badFormat, path);
   return readDocumentFile(*bytes);
-}
-
-std::string askForName(const OpenDocument& document, base::Platform& platform) {
-  const std::string suggestion = std::filesystem::path(document.file).filename().string();
-  while (true) {
-    std::string path =
-        withSuffix(platform.askSaveFile({.title = "Speichern", .filter = kSaveFilter, .suggestion = suggestion}));
-    if (mayReplace(path, platform)) return path;
-  }
 }
 
 }  // namespace
@@ -81,8 +74,17 @@ void loadDocument(const DocumentParts& parts, const std::string& path) {
   parts.platform.setHourglass(base::Hourglass::off);
 }
 
+std::string askForTarget(const base::FileQuestion& question, std::string_view suffix, base::Platform& platform) {
+  while (true) {
+    std::string path = withSuffix(platform.askSaveFile(question), suffix);
+    if (mayReplace(path, platform)) return path;
+  }
+}
+
 void saveByDialog(const DocumentParts& parts) {
-  const std::string path = askForName(parts.document, parts.platform);
+  const std::string suggestion = std::filesystem::path(parts.document.file).filename().string();
+  const std::string path =
+      askForTarget({.title = "Speichern", .filter = kSaveFilter, .suggestion = suggestion}, ".rtf", parts.platform);
   parts.platform.setHourglass(base::Hourglass::on);
   base::replaceFile(path, writeRtf(parts.text.document()));
   parts.platform.setHourglass(base::Hourglass::off);

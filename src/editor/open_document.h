@@ -45,6 +45,9 @@ void loadDocument(const DocumentParts& parts, const std::string& path);
 /// that name is asked about. The document then is that file's. Leaving the dialog is a Failure (cancelled).
 void saveByDialog(const DocumentParts& parts);
 
+/// The path of a file to write, with `suffix`; whether one that exists may be replaced is asked.
+std::string askForTarget(const base::FileQuestion& question, std::string_view suffix, base::Platform& platform);
+
 /// Before unsaved changes are lost: Yes saves them, No lets them go. Cancelling is a Failure (cancelled), and so is a
 /// save that is left.
 void settleChanges(base::Platform& platform, const std::function<void()>& save,

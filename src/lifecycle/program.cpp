@@ -27,6 +27,7 @@ commands::MainParts partsOf(Program& program) {
           .containerUndo = program.containerUndo,
           .priceEditor = program.windows.priceEditor,
           .rollGoods = program.windows.rollGoods,
+          .csvImport = program.windows.csvImport,
           .spellingWindow = program.windows.spelling,
           .spelling = program.spelling,
           .sort = program.windows.sort,

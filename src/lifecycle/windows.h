@@ -30,6 +30,7 @@ namespace lifecycle {
   WINDOW(options::OptionsWindow, optionsDialog)      \
   WINDOW(pricelists::PriceEditorWindow, priceEditor) \
   WINDOW(pricelists::RollGoodsWindow, rollGoods)     \
+  WINDOW(pricelists::CsvImportWindow, csvImport)     \
   WINDOW(calculator::CalculatorWindow, calculator)   \
   WINDOW(backup::BackupWindow, backup)
 // clang-format on

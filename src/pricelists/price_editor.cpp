@@ -7,6 +7,7 @@ namespace {
 constexpr PriceTableKind kPriceList{.list = calc::kCapHeights,
                                     .subject = "Nettopreis eines Zeichens für jede Versalienhöhe",
                                     .nameMissing = "Bitte eine Versalienhöhe eingeben",
+                                    .csvHeading = "Versalienhöhe",
                                     .loadTag = "DATA-formActivate",
                                     .addTag = "DATA-cmdAdd",
                                     .insertTag = "DATA-Einfügen",
@@ -14,14 +15,16 @@ constexpr PriceTableKind kPriceList{.list = calc::kCapHeights,
                                     .deleteTag = "DATA-cmdDelete",
                                     .clearTag = "DATA-cmdUpdate_Click",
                                     .exportTag = "DATA-Zwischenablage",
+                                    .csvImportTag = "DATA-CsvImport",
+                                    .csvExportTag = "DATA-CsvExport",
                                     .timerTag = "DATA-timer1",
                                     .saveTag = "DATA-cmdOK"};
 
 }  // namespace
 
-PriceTable priceEditor(PriceEditorWindow& window, const settings::Paths& paths, const settings::Rates& rates,
-                       base::Platform& platform, errors::Reporter& reporter) {
-  return {window, kPriceList, paths, rates, platform, reporter};
+PriceTable priceEditor(PriceEditorWindow& window, CsvImportWindow& csvImport, const settings::Paths& paths,
+                       const settings::Rates& rates, base::Platform& platform, errors::Reporter& reporter) {
+  return {window, kPriceList, csvImport, paths, rates, platform, reporter};
 }
 
 bool editPriceList(const PriceTable& editor) {

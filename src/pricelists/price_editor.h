@@ -10,8 +10,8 @@ struct PriceEditorWindow : PriceTableWindow {
 };
 
 /// What the editor of the price list works on; all of it outlives the wiring.
-PriceTable priceEditor(PriceEditorWindow& window, const settings::Paths& paths, const settings::Rates& rates,
-                       base::Platform& platform, errors::Reporter& reporter);
+PriceTable priceEditor(PriceEditorWindow& window, CsvImportWindow& csvImport, const settings::Paths& paths,
+                       const settings::Rates& rates, base::Platform& platform, errors::Reporter& reporter);
 
 /// Opens the editor and waits until it is closed; true when the list was saved.
 bool editPriceList(const PriceTable& editor);

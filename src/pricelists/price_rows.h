@@ -9,12 +9,16 @@
 #include <string_view>
 
 #include "base/money.h"
+#include "base/profile_file.h"
 #include "calc/price_database.h"
 
 namespace pricelists {
 
 /// Whether a list of so many rows takes another one.
 constexpr bool hasRoom(int rows) { return rows <= 32'000; }
+
+/// Characters of a name that come back from the file.
+inline constexpr std::size_t kLongestName = base::kListBuffer - 1;
 
 /// The row that keeps a place free.
 calc::PriceRow freeRow();

@@ -1,6 +1,8 @@
 // What the windows of price lists share.
 #include "pricelists/price_table.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,6 +45,8 @@ void offerCommands(PriceTableWindow& window) {
   window.Command1.enabled = window.mnuEinfügen.enabled = selectedRow(window) >= 0;
   window.Command3.enabled = window.List1.items.size() >= 2;
   window.cmdAdd.enabled = window.mnuHinzufügen.enabled = !window.isChanging;
+  window.cmdCsvImport.enabled = !window.isChanging;
+  window.cmdCsvExport.enabled = !window.List1.items.empty();
   window.Command2.enabled = !window.isChanging && window.isWhole;
   window.Command1.text = window.mnuEinfügen.text = window.isChanging ? kChangeCaption : kInsertCaption;
 }
@@ -204,6 +208,31 @@ void exportToClipboard(const PriceTable& table) {
   table.platform.setClipboardText(listing);
 }
 
+std::vector<std::string> joined(const base::ItemList& items, std::vector<std::string> more) {
+  std::vector<std::string> all(items.begin(), items.end());
+  std::move(more.begin(), more.end(), std::back_inserter(all));
+  return all;
+}
+
+// Into the window alone: only saving makes it last.
+void importCsv(const PriceTable& table) {
+  PriceTableWindow& window = table.window;
+  auto read = importByDialog(table.csvImport, {table.kind.subject, window.List1.items.size()}, table.platform);
+  if (!read) return;
+  const int first = read->replacesList ? 0 : window.List1.items.size();
+  if (read->replacesList) window.List1.clear(), window.List2.clear();
+  window.List1.items.assign(joined(window.List1.items, std::move(read->names)));
+  window.List2.items.assign(joined(window.List2.items, std::move(read->prices)));
+  select(table, first);
+  showHint(window, "Noch nicht gespeichert");
+}
+
+void exportCsv(const PriceTable& table) {
+  const PriceTableWindow& window = table.window;
+  exportByDialog(std::string(table.kind.list.names),
+                 writeCsv(table.kind.csvHeading, window.List1.items, window.List2.items), table.platform);
+}
+
 // A name that a hand has put into the file in quotes may be blank without them, and would end the list there.
 std::string storedName(const std::string& name) { return leavesNoName(name) ? "\"" + name + "\"" : name; }
 
@@ -279,6 +308,8 @@ void wireCommands(base::Wiring& wiring, const PriceTable& table) {
   both(window.cmdDelete, window.mnuLöschen, kind.deleteTag, removeSelected);
   both(window.cmdUpdate, window.mnuClearAll, kind.clearTag, clearAll);
   wiring.on(window.Command3, Event::click, command(table, kind.exportTag, exportToClipboard));
+  wiring.on(window.cmdCsvImport, Event::click, command(table, kind.csvImportTag, importCsv));
+  wiring.on(window.cmdCsvExport, Event::click, command(table, kind.csvExportTag, exportCsv));
   wiring.on(window.Command2, Event::click, command(table, kind.saveTag, saveAndClose));
 }
 

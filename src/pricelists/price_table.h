@@ -15,6 +15,7 @@
 #include "base/wiring.h"
 #include "calc/price_database.h"
 #include "errors/reporting.h"
+#include "pricelists/csv_import.h"
 #include "settings/settings.h"
 
 namespace pricelists {
@@ -34,6 +35,8 @@ namespace pricelists {
   CONTROL(base::Button, cmdDelete)                                                        \
   CONTROL(base::Button, cmdUpdate)          /* clears the list */                         \
   CONTROL(base::Button, Command3)           /* to the clipboard */                        \
+  CONTROL(base::Button, cmdCsvImport)                                                     \
+  CONTROL(base::Button, cmdCsvExport)                                                     \
   CONTROL(base::Button, Command2)           /* saves and closes */                        \
   CONTROL(base::ProgressBar, Progress1)                                                   \
   CONTROL(base::MenuEntry, mnuHinzufügen)                                                 \
@@ -59,6 +62,7 @@ struct PriceTableKind {
   calc::PriceList list;
   std::string_view subject;      // what the list is
   std::string_view nameMissing;  // asks for the name
+  std::string_view csvHeading;   // over the names in a spreadsheet
   std::string_view loadTag;
   std::string_view addTag;
   std::string_view insertTag;
@@ -66,6 +70,8 @@ struct PriceTableKind {
   std::string_view deleteTag;
   std::string_view clearTag;
   std::string_view exportTag;
+  std::string_view csvImportTag;
+  std::string_view csvExportTag;
   std::string_view timerTag;
   std::string_view saveTag;
 };
@@ -74,6 +80,7 @@ struct PriceTableKind {
 struct PriceTable {
   PriceTableWindow& window;
   const PriceTableKind& kind;
+  CsvImportWindow& csvImport;
   const settings::Paths& paths;
   const settings::Rates& rates;
   base::Platform& platform;

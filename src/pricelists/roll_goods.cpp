@@ -19,6 +19,7 @@ constexpr PriceTableKind kFoils{
     .list = {.names = "Folien", .prices = "FPreise", .row = "der Folie"},
     .subject = "Nettopreis eines Quadratmeters jeder Folie",
     .nameMissing = "Bitte einen Foliennamen eingeben",
+    .csvHeading = "Foliename",
     .loadTag = "VOLL-FormLoad",
     .addTag = "VOLL-cmdAdd",
     .insertTag = "VOLL-Einfügen",
@@ -26,6 +27,8 @@ constexpr PriceTableKind kFoils{
     .deleteTag = "VOLL-cmdDelete",
     .clearTag = "VOLL-cmdUpdate",
     .exportTag = "VOLL-Zwischenablage",
+    .csvImportTag = "VOLL-CsvImport",
+    .csvExportTag = "VOLL-CsvExport",
     .timerTag = "VOLL-timer1",
     .saveTag = "VOLL-cmdOK",
 };
@@ -68,7 +71,8 @@ base::Wiring::Procedure calculation(const RollGoods& goods) {
 }
 
 PriceTable foilTable(const RollGoods& goods) {
-  return {goods.window, kFoils, goods.paths, goods.rates, goods.platform, goods.reporter, calculation(goods)};
+  return {goods.window, kFoils,         goods.csvImport, goods.paths,
+          goods.rates,  goods.platform, goods.reporter,  calculation(goods)};
 }
 
 void wireInputs(base::Wiring& wiring, const RollGoods& goods) {

@@ -51,6 +51,7 @@ base::Currency rollTotal(base::Currency piece, double pieces);
 /// All of it outlives the wiring.
 struct RollGoods {
   RollGoodsWindow& window;
+  CsvImportWindow& csvImport;
   const settings::Paths& paths;
   const settings::Rates& rates;
   base::Platform& platform;

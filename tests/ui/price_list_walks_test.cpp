@@ -81,5 +81,50 @@ TEST(Walk, ThePriceListIsEditedSavedAndPricesTheLettering) {
   walk.leave();
 }
 
+int rowsOf(QDialog& dialog, const char* name) {
+  return static_cast<QAbstractItemView&>(part(dialog, name)).model()->rowCount();
+}
+
+TEST(Walk, PricesComeFromASpreadsheetAndGoBackToIt) {
+  const Shop shop;
+  const QString file = toQString(shop.directory.path("daten/preise.csv"));
+  shop.write("preise.csv", "H\xF6he;Preis\r\n\"Gro\xDF; XL\";1.250,00 \x80\r\n80;auf Anfrage\r\n50;2,5\r\n");
+  Walk walk(shop);
+  const auto chooses = [&] { walk.whenAsked([file](QDialog& dialog) { chooseFile(dialog, file); }); };
+  walk.whenAsked([&](QDialog& editor) {
+    chooses();
+    walk.whenAsked([&](QDialog& preview) {
+      EXPECT_EQ(rowsOf(preview, "List1") * 10 + rowsOf(preview, "lstAbgewiesen"), 21);
+      EXPECT_EQ(textOf(preview, "optErsetzen"), "Liste &ersetzen (2 Einträge entfallen)");
+      preview.close();
+    });
+    QTest::mouseClick(&part(editor, "cmdCsvImport"), Qt::LeftButton);
+    EXPECT_EQ(textOf(editor, "Label3"), "Eintrag: 0/2");
+    for (const bool isAppended : {false, true}) {
+      chooses();
+      walk.whenAsked([&walk, isAppended](QDialog& /*preview*/) {
+        if (isAppended) walk.press(Qt::Key_Down);
+        walk.press(Qt::Key_Return);
+      });
+      QTest::mouseClick(&part(editor, "cmdCsvImport"), Qt::LeftButton);
+    }
+    EXPECT_EQ(textOf(editor, "Label3") + " " + textOf(editor, "lblHinweis"), "Eintrag: 3/4 Noch nicht gespeichert");
+    clickRow(editor, "List1", 2);
+    QTest::mouseClick(&part(editor, "cmdDelete"), Qt::LeftButton);
+    chooses();
+    walk.expectBox("gibt es schon", QMessageBox::Yes);
+    QTest::mouseClick(&part(editor, "cmdCsvExport"), Qt::LeftButton);
+    QTest::mouseClick(&part(editor, "Command2"), Qt::LeftButton);
+  });
+  walk.choose("cboBuchstabenhöhe", 1);
+  walk.press(Qt::Key_Insert);
+  walk.close();
+  EXPECT_EQ(shop.file("preise.csv"),
+            "\xEF\xBB\xBFVersalienhöhe;Preis\r\n\"Groß; XL\";1250,00\r\n50;2,50\r\n50;2,50\r\n");
+  EXPECT_EQ(shop.file("Tessik.pdb"),
+            "[Versalien]\r\n0=Groß; XL\r\n1=50\r\n2=50\r\n"
+            "[Preise]\r\n0=1250.00 EUR\r\n1=2.50 EUR\r\n2=2.50 EUR\r\n");
+}
+
 }  // namespace
 }  // namespace ui

@@ -11,8 +11,10 @@
 #include "ui/forms/form_dialog.h"
 #include "ui/forms/letter_size.h"
 #include "ui/forms/main_form.h"
+#include "ui/forms/price_columns.h"
 #include "ui_backup.h"
 #include "ui_calculator.h"
+#include "ui_csv_import.h"
 #include "ui_loading.h"
 #include "ui_options.h"
 #include "ui_picker.h"
@@ -69,6 +71,15 @@ QWidget* calculator(QWidget* /*parent*/) {
   return window;
 }
 
+QWidget* csvImport(QWidget* parent) {
+  auto* const form = new FormDialog(parent);
+  Ui::CsvImportForm drawn;
+  drawn.setupUi(form);
+  joinColumns(*drawn.List1, *drawn.List2);
+  form->resize(inLetters(*form, 96, 36));
+  return form;
+}
+
 constexpr std::array kForms = {
     Form{"frmMain", mainWindow},
     Form{"frmLoad", loadingScreen, Appears::whenItTakesLonger},
@@ -81,6 +92,7 @@ constexpr std::array kForms = {
     Form{"frmCalc", calculator},
     Form{"frmBackup", dialog<Ui::BackupForm, 120, 30>},
     Form{"frmData", dialog<Ui::PriceEditorForm, 84, 36>},
+    Form{"frmCsvImport", csvImport},
     Form{"frmVoll", dialog<Ui::RollGoodsForm, 136, 34>},
 };
 
