@@ -218,6 +218,7 @@ std::vector<std::string> joined(const base::ItemList& items, std::vector<std::st
 void importCsv(const PriceTable& table) {
   PriceTableWindow& window = table.window;
   auto read = importByDialog(table.csvImport, {table.kind.subject, window.List1.items.size()}, table.platform);
+  table.platform.show(window);  // or the main window has the keys, which the preview belonged to
   if (!read) return;
   const int first = read->replacesList ? 0 : window.List1.items.size();
   if (read->replacesList) window.List1.clear(), window.List2.clear();

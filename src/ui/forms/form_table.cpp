@@ -93,7 +93,7 @@ constexpr std::array kForms = {
     Form{"frmBackup", dialog<Ui::BackupForm, 120, 30>},
     Form{"frmData", dialog<Ui::PriceEditorForm, 84, 36>},
     Form{"frmCsvImport", csvImport},
-    Form{"frmVoll", dialog<Ui::RollGoodsForm, 136, 34>},
+    Form{"frmVoll", dialog<Ui::RollGoodsForm, 128, 34>},
 };
 
 }  // namespace
