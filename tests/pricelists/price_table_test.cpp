@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -205,6 +206,22 @@ TEST_F(PriceEditor, TheListIsFullAndClearedAndListed) {
     session.click(window.cmdUpdate);
     window.savedRevision = window.List1.items.revision() + window.List2.items.revision();
   });
+}
+
+TEST_F(PriceEditor, FilesThatAreNoTableChangeNothing) {
+  directory.write("groß.csv", "20;1\n");
+  std::filesystem::resize_file(directory.path("groß.csv"), 1'000'000'000);
+  directory.write("binär.csv", std::string("20;1\n\0", 6));
+  directory.write("komma.csv", "20,1.25\n");
+  edit([&] {
+    for (const char* const file : {"groß.csv", "binär.csv", "komma.csv", "fehlt.csv"}) {
+      session.platform.expectFileDialog("CSV-Datei (*.csv)|*.csv|Alle Dateien (*.*)|*.*", directory.path(file));
+      session.platform.expectAnyMessage(MessageAnswer::ok);
+      session.click(window.cmdCsvImport);
+    }
+    EXPECT_EQ(shown(), "10 = 1.25 EUR | 20 = 2.50 EUR | 30 = 3 | Eintrag: 0/3");
+  });
+  EXPECT_NE(directory.read("Error.log").find("DATA-CsvImport"), std::string::npos);
 }
 
 TEST(PriceRows, RefuseWhatIsNoPriceOrTooLong) {
