@@ -63,7 +63,7 @@ void SpellingAids::offerFor(const QContextMenuEvent& event) {
     const QString suggestion = toQString(suggestions[i]);
     offer(suggestion, kStrong, [this, word = *word, suggestion] { replace(word, suggestion); });
   }
-  offer(QStringLiteral("Ins eigene &Wörterbuch"), kOrdinary, [this, text = word->text] { takeIn_(text); });
+  offer(QStringLiteral("Ins ei&gene Wörterbuch"), kOrdinary, [this, text = word->text] { takeIn_(text); });
   offer(QStringLiteral("&Ignorieren"), kOrdinary, [this, text = word->text] { spelling_.ignore(text); });
   offered_.append(new QAction(&edit_));
   offered_.back()->setSeparator(true);
