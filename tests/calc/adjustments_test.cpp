@@ -144,10 +144,14 @@ TEST(Adjustments, ThePickerShowsOnlyTheFixedRowWhenSlotOneIsEmpty) {
 
 TEST(RunningSum, AmountsAddedByHandMakeUpTheSum) {
   Desk desk;
-  for (const char* amount : {"12,5", "0", "", "3.005", "-1", "0,001"}) {
+  desk.platform.expectAnyMessage(base::MessageAnswer::ok);
+  for (const char* amount : {"12,5", "0", "", "3.005", "-1", "0,001", "999999999999999999"}) {
     desk.type(desk.window.txtAddPerHand, amount);
+    desk.window.txtAddPerHand.wantsFocus = false;
     desk.click(desk.window.cmdAddPerHand);
+    EXPECT_EQ(desk.window.txtAddPerHand.wantsFocus, desk.window.txtAddPerHand.text.empty() && *amount != 0) << amount;
   }
+  desk.window.txtAddPerHand.text.clear();
   desk.window.cboCalc.items.add("ohne Zahl");
   desk.click(desk.window.cmdAddPerHand);
   EXPECT_EQ(std::vector<std::string>(desk.window.cboCalc.items.begin(), desk.window.cboCalc.items.end()),
@@ -164,7 +168,10 @@ TEST(RunningSum, HoldsAsManyEntriesAsA16BitIndexCounts) {
   desk.type(desk.window.txtAddPerHand, "3");
   desk.platform.expectAnyMessage(base::MessageAnswer::ok);
   desk.click(desk.window.cmdAddPerHand);
-  EXPECT_EQ(desk.window.cboCalc.items.size(), 32'767);
+  for (const int left : {32'767, 32'766, 32'765}) {
+    EXPECT_EQ(desk.window.cboCalc.items.size(), left);
+    desk.click(desk.window.cmdSub);
+  }
 }
 
 }  // namespace

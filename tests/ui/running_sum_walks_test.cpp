@@ -53,6 +53,11 @@ TEST(Walk, SumsAreCollectedMarkedAddedToThePriceAndRemoved) {
   EXPECT_EQ(walk.text("txtStück") + " " + walk.text("lblStückp"), "1 15,10 EUR");
   walk.click("cmdLöschen");
   EXPECT_EQ(walk.text("lblPNettoAuf"), "8,80 EUR");
+  for (const auto& [letter, price] : {std::pair(Qt::Key_D, "15,10 EUR"), {Qt::Key_A, "8,00 EUR"}}) {
+    walk.press(Qt::Key_N, Qt::AltModifier);
+    walk.press(letter);
+    EXPECT_EQ(walk.text("lblStückp"), price);
+  }
 
   walk.clickEntry(0, Qt::LeftButton, Qt::ControlModifier);
   walk.clickEntry(2, Qt::RightButton);
@@ -102,6 +107,7 @@ TEST(Walk, NotesGatherInTheContainerUntilItIsEmptied) {
     walk.press(Qt::Key_O, Qt::AltModifier);
     walk.press(Qt::Key_L);
     EXPECT_EQ(container.rtfTextC.plainText(), left);
+    EXPECT_EQ(container.mnuMarkAll.enabled, left != "");
   }
   walk.clickInBar("cmdContainerLook");
   EXPECT_TRUE(container.isOpen);
