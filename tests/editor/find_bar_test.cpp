@@ -59,15 +59,20 @@ TEST(FindBar, StepsFromTheCaretAndOffersToGoOnAtTheOtherEnd) {
 
 TEST(FindBar, ReplacesOneByOneAndThenAsksBeforeItStartsAgain) {
   LetteringDesk desk("ab ab ab");
+  desk.document.select({.start = 0, .length = 8});
+  desk.document.changeFormat({.bold = true});
   desk.document.select({.start = 2, .length = 0});
   desk.type(desk.window.txtSuche, "AB");
   desk.type(desk.window.txtErsetzen, "abab");
   for (const char* const seen :
        {"3+2 2 von 3", "8+2 4 von 4", "12+0 Ende des Textes – F3 sucht vom Anfang weiter", "0+2 1 von 5"}) {
-    desk.click(desk.window.cmdErsetzen);
+    const bool isByKey = seen[1] == '2';
+    if (isByKey) desk.program.wiring.fire(desk.window.txtErsetzen, Event::keyEnter);
+    if (!isByKey) desk.click(desk.window.cmdErsetzen);
     EXPECT_EQ(desk.seen(), seen);
   }
   EXPECT_EQ(desk.document.plainText(), "ab abab abab");
+  EXPECT_EQ(desk.document.document().paragraphs.front().runs.size(), 1U) << "all is bold";
   desk.click(desk.window.mnuUndo);
   EXPECT_EQ(desk.document.plainText(), "ab abab ab");
 }
@@ -117,12 +122,25 @@ TEST(FindBar, TakesWhatIsSelectedInOneLineUnlessItSelectedThatItself) {
   EXPECT_EQ(desk.window.txtSuche.text, "or");
   EXPECT_TRUE(desk.window.pnlErsetzen.visible && desk.window.txtErsetzen.wantsFocus);
   desk.click(desk.window.cmdSucheZu);
-  EXPECT_FALSE(desk.window.pnlSuche.visible || desk.window.tmrSuche.running);
+  EXPECT_FALSE(desk.window.pnlSuche.visible || desk.window.pnlErsetzen.visible || desk.window.tmrSuche.running);
   desk.click(desk.window.mnuWeitersuchen);
   EXPECT_EQ(desk.seen(), "7+2 1 von 1");
   EXPECT_FALSE(desk.window.pnlSuche.visible);
   desk.click(desk.window.mnuWeitersuchen);
   EXPECT_TRUE(desk.window.pnlSuche.visible) << "to make its offer";
+  desk.document.select({.start = 0, .length = 0});
+  desk.type(desk.window.txtSuche, "");
+  for (const auto button : {&MainWindow::cmdZurück, &MainWindow::cmdWeiter, &MainWindow::cmdErsetzen,
+                            &MainWindow::cmdAlleErsetzen, &MainWindow::cmdSucheZu}) {
+    EXPECT_EQ((desk.window.*button).enabled, button == &MainWindow::cmdSucheZu);
+    desk.click(desk.window.mnuSuchen);
+    desk.program.wiring.fire(desk.window.*button, Event::keyEscape);
+    EXPECT_FALSE(desk.window.pnlSuche.visible);
+  }
+  LetteringDesk longest(std::string(1'001, 'a'));
+  longest.document.select({.start = 0, .length = 1'001});
+  longest.click(longest.window.mnuSuchen);
+  EXPECT_EQ(longest.window.txtSuche.text, "");
 }
 
 TEST(FindBar, CountsAgainOnceNobodyWritesAnyMore) {
