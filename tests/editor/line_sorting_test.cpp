@@ -45,19 +45,22 @@ TEST(LineSorting, PutsTheLinesBackInOrderAsPlainTextInOneStep) {
        "20"},
       {"b\u2028😀\uFF21\nba\na\nb\n ", "a\r\nb\r\nb\r\nba\r\n😀Ａ", "😀Ａ\r\nba\r\nb\r\nb\r\na", "7"},
       {"\u00A0", "\u00A0", "\u00A0", "1"},
-      {"\n\t", "", "", "0"},
+      {"\n\n", "", "", "0"},
       {"", "", "", "0"},
   };
   for (const Row& row : rows) {
     for (const bool ascends : {true, false}) {
       SortDesk desk(row.before);
       const base::Document before = desk.document.document();
+      EXPECT_EQ(desk.window.mnuLeerzeilen.enabled, !row.before.empty());
       desk.sort([&](editor::SortWindow& dialog) {
         dialog.optAuf.checked = ascends;
         dialog.optAb.checked = !ascends;
         desk.click(dialog.cmdGo);
       });
       EXPECT_EQ(desk.document.plainText(), ascends ? row.ascending : row.descending);
+      EXPECT_EQ(desk.document.selection(), base::TextSelection{});
+      EXPECT_EQ(desk.window.mnuSort.enabled, row.counted != "0");
       desk.document.select({.start = 0, .length = desk.document.countAll().characters});
       EXPECT_EQ(desk.document.format(), base::CharFormat{}) << row.before;
       EXPECT_EQ(desk.window.lblTextlenBox.text, row.counted) << row.before;
@@ -92,6 +95,7 @@ TEST(LineSorting, AnAbortedSortKeepsTheDialogOpenForAnother) {
   SortDesk desk("b\nd\na\nc");
   desk.sort([&](editor::SortWindow& dialog) {
     const std::string invitation = dialog.lblInfo.text;
+    EXPECT_TRUE(dialog.optAuf.wantsFocus);
     desk.platform.onRefresh = [&] {
       EXPECT_EQ(dialog.lblInfo.text, "Sortiere ... \rAbbruch mit Esc");
       EXPECT_EQ(dialog.Progress2.maximum, 3);
@@ -107,6 +111,9 @@ TEST(LineSorting, AnAbortedSortKeepsTheDialogOpenForAnother) {
     desk.click(dialog.cmdGo);
   });
   EXPECT_EQ(desk.document.plainText(), "a\r\nb\r\nc\r\nd");
+  desk.write("z\n\ny");
+  desk.sort([&](editor::SortWindow& dialog) { desk.click(dialog.cmdExit); });
+  EXPECT_EQ(desk.document.plainText(), "z\r\n\r\ny");
 }
 
 TEST(BlankLines, GoFromTheDocumentAndLeaveTheOthersAsTheyAre) {

@@ -62,6 +62,16 @@ TEST_F(InputFilterTest, DropsWhatComesDuringLongWorkButNotesEscape) {
   hurry();
   EXPECT_EQ(edit.text(), "ab");
   EXPECT_EQ(clicks, 1);
+
+  // Held down where repeated keys are not marked, each is let go and pressed in the same moment.
+  const auto isFiltered = [this](QEvent::Type type, quint64 moment) {
+    QKeyEvent escape(type, Qt::Key_Escape, Qt::NoModifier);
+    escape.setTimestamp(moment);
+    return static_cast<QObject&>(filter).eventFilter(&edit, &escape);
+  };
+  EXPECT_FALSE(isFiltered(QEvent::KeyRelease, 5));
+  EXPECT_TRUE(isFiltered(QEvent::KeyPress, 5));
+  EXPECT_FALSE(isFiltered(QEvent::KeyPress, 6));
 }
 
 }  // namespace

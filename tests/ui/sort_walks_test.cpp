@@ -41,8 +41,10 @@ TEST(Walk, LinesAreSortedByKeysAndOneUndoBringsTextAndFormatsBack) {
   extra(walk, Qt::Key_S);
   EXPECT_EQ(walk.text("rtfText"), "b\na\nZ");
   walk.press(Qt::Key_Return);
+  walk.type(" ");
+  walk.press(Qt::Key_Return);
   extra(walk, Qt::Key_L);
-  EXPECT_EQ(walk.text("rtfText"), "b\na\nZ");
+  EXPECT_EQ(walk.text("rtfText") + " " + walk.text("lblPreisNettoGesamt"), "b\na\nZ 3,00 EUR");
   EXPECT_EQ(Walk::focus(), "rtfText");
   walk.leave();
 }
@@ -63,7 +65,10 @@ TEST(Walk, EscEndsASortAndTheDialogStaysUntilTheNextEsc) {
       QApplication::sendEvent(&dialog, &escape);
     };
     const QString invitation = dialog.findChild<QLabel*>("lblInfo")->text();
-    QTimer::singleShot(1, &dialog, [press] { press(false); });
+    QTimer::singleShot(1, &dialog, [&dialog, press] {
+      EXPECT_EQ(dialog.findChild<QLabel*>("lblInfo")->text(), "Sortiere ... \nAbbruch mit Esc");
+      press(false);
+    });
     QTest::mouseClick(dialog.findChild<QPushButton*>("cmdGo"), Qt::LeftButton);
     press(true);
     EXPECT_TRUE(dialog.isVisible());
