@@ -25,6 +25,7 @@ struct SpellingDesk : support::Desk {
   void check(const std::vector<const base::Control*>& buttons, bool ends = true) {
     platform.expectModal("frmRechtschreibung", [this, buttons](base::Window&) {
       for (const base::Control* const button : buttons) {
+        EXPECT_TRUE(dialog.txtErsetzen.wantsFocus && dialog.txtErsetzen.wantsSelectAll);
         seen.push_back(dialog.lblStelle.text + " " + dialog.txtErsetzen.text + " " + document.selectedText());
         click(*button);
       }
@@ -96,6 +97,17 @@ TEST(SpellingCheck, WithASelectionLooksAtThatAloneAndStaysWhereItIsLeft) {
   constexpr bool kIsLeft = false;
   desk.check({&desk.dialog.cmdSchließen}, kIsLeft);
   EXPECT_EQ(desk.document.selection(), (base::TextSelection{4, 0}));
+}
+
+TEST(SpellingCheck, TakesADoubleClickedSuggestionForTheWordThatEndsAtTheCaret) {
+  SpellingDesk desk("Söne");
+  desk.document.select({4, 0});
+  desk.platform.expectModal("frmRechtschreibung", [&desk](base::Window&) {
+    desk.program.wiring.fire(desk.dialog.lstVorschläge, base::Event::doubleClick);
+  });
+  desk.expectEnd();
+  desk.click(desk.window.mnuRechtschreibung);
+  EXPECT_EQ(desk.document.plainText(), "Söhne");
 }
 
 TEST(SpellingCheck, EscEndsALongSearch) {
