@@ -81,6 +81,12 @@ TEST_F(PriceCommand, PrintsTheNoteThatTheContainerReceives) {
   EXPECT_EQ(base::plainText(received), outcome.out);
   const auto formatOf = [&](std::size_t i) { return received.formats[received.paragraphs[i].runs.front().format]; };
   EXPECT_TRUE(formatOf(4).bold && !formatOf(6).bold && formatOf(22).underline);
+  desk.click(desk.window.mnuContainerLook);
+  EXPECT_TRUE(desk.window.mnuContainerLook.enabled && desk.program.windows.container.isOpen);
+  directory.write("neu.txt", "Neu");
+  desk.platform.expectAnyMessage(base::MessageAnswer::cancel);
+  desk.program.wiring.fireFile(desk.program.windows.container, directory.path("neu.txt"));
+  EXPECT_EQ(desk.program.windows.container.rtfTextC.plainText(), outcome.out) << "dropped, and not to be lost";
 }
 
 TEST_F(PriceCommand, EveryOptionReachesThePrice) {
@@ -148,7 +154,7 @@ TEST_F(PriceCommand, TellsWrongArgumentsFromFailures) {
       {{"--text", "a", "--rabatt-betrag", "-5"}, 2, "--rabatt-betrag verlangt eine Zahl"},
       {{"--text", "a", "--zusatz", "5-3"}, 2, "--zusatz"},
       {{"--daten=" + directory.path("fehlt")}, 2, "--daten steht zweimal da"},
-      {{"--aufpreis-betrag", "5"}, 1, "Division durch Null"},
+      {{"--aufpreis-betrag", "5", "--notiz"}, 1, "Division durch Null"},
       {{"--datei", directory.path("fehlt.txt")}, 1, "Die Datei wurde nicht gefunden."},
   };
   for (const Row& row : rows) {

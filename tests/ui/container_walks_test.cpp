@@ -47,19 +47,27 @@ TEST(ContainerWalk, IsWrittenUndoneZoomedAndCopiedBesideTheMainWindow) {
     walk.press(Qt::CTRL | Qt::Key_Y);
     EXPECT_EQ(walk.text("rtfTextC"), "Auto Haus");
     walk.press(Qt::CTRL | Qt::Key_Plus);
+    walk.press(Qt::CTRL | Qt::Key_0);
+    EXPECT_EQ(walk.text("fixAnsichtsgröße"), "125 %");
+    walk.press(Qt::CTRL | Qt::Key_Plus);
     EXPECT_EQ(walk.text("fixAnsichtsgröße"), "150 %");
     walk.press(Qt::CTRL | Qt::Key_A);
-    walk.press(Qt::CTRL | Qt::Key_X);
+    walk.press(Qt::CTRL | Qt::Key_C);
+    walk.press(Qt::Key_Delete);
     EXPECT_FALSE(walk.window.mnuCut.enabled || walk.window.mnuMarkAll.enabled);
 
     walk.turnTo(walk.desktop->program().windows.main);
     walk.press(Qt::CTRL | Qt::Key_V);
     EXPECT_EQ(walk.text("rtfText"), "Auto Haus");
-    walk.press(Qt::CTRL | Qt::Key_Z);
+    for (const auto key : {Qt::Key_A, Qt::Key_B, Qt::Key_C, Qt::Key_Z, Qt::Key_Z}) walk.press(Qt::CTRL | key);
     EXPECT_EQ(walk.text("rtfText"), "");
+    walk.turnTo(walk.window);
+    walk.press(Qt::CTRL | Qt::Key_V);
+    EXPECT_TRUE(walk.window.rtfTextC.format().bold);
+    for (const auto key : {Qt::Key_A, Qt::Key_X, Qt::Key_Z, Qt::Key_Z}) walk.press(Qt::CTRL | key);
 
     // Closed with its text, it comes again with it and what can be undone.
-    walk.turnTo(walk.window);
+    walk.desktop->formOf(walk.window).resize(700, 500);
     walk.press(Qt::CTRL | Qt::Key_Z);
     walk.press(Qt::CTRL | Qt::Key_W);
     QTest::qWait(50);
@@ -77,6 +85,7 @@ TEST(ContainerWalk, IsWrittenUndoneZoomedAndCopiedBesideTheMainWindow) {
     walk.close();
   }
   ContainerWalk again(shop);
+  EXPECT_EQ(again.desktop->formOf(again.window).size(), QSize(700, 500));
   EXPECT_EQ(again.text("rtfTextC") + again.text("fixAnsichtsgröße"), "150 %");
   again.close();
 }
@@ -91,6 +100,7 @@ TEST(ContainerWalk, SearchesBehindTheCaretWhateverTheCase) {
   EXPECT_FALSE(walk.window.mnuFindNext.enabled);
   walk.search("", QString());
   EXPECT_EQ(walk.selection(), base::TextSelection{});
+  walk.search("", "");
   walk.search("", "mü");
   EXPECT_EQ(walk.selection(), (base::TextSelection{14, 2})) << "the one at the caret is not behind it";
   EXPECT_EQ(walk.focus(), "rtfTextC");

@@ -492,6 +492,15 @@ TEST(RichTextEdit, countsStayRightUnderAnyEdits) {
   }
 }
 
+TEST(RichTextEdit, isWhitePaperInDarkSurroundings) {
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(Qt::black));
+  const ui::RichTextEdit edit;
+  QApplication::setPalette(before);
+  EXPECT_EQ(edit.palette().color(QPalette::Base), QColor(Qt::white));
+  EXPECT_EQ(edit.palette().color(QPalette::Text), QColor(Qt::black));
+}
+
 TEST(RichTextEdit, aLongParagraphIsCountedLikeAShortOne) {
   // Longer than one chunk of the counting loop, with a pair before, across and behind its end.
   for (const std::size_t blanks : {0xFFFDU, 0xFFFEU, 0xFFFFU}) {
