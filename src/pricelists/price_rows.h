@@ -26,8 +26,8 @@ calc::PriceRow freeRow();
 /// A name as a row holds it: of one line.
 std::string rowName(std::string_view typed);
 
-/// Whether nothing would be left of `name` in the file: blanks alone, a NUL first, or a mere pair of quotes, which would
-/// end the list there for the next reader.
+/// Whether nothing would be left of `name` in the file: blanks alone, a NUL first, or a mere pair of quotes, which
+/// would end the list there for the next reader.
 bool leavesNoName(std::string_view name);
 
 /// What was typed as a price, digits with at most one comma or point, as a row holds it. Error 13 when it is no number,
