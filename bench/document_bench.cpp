@@ -16,9 +16,9 @@
 #include "editor/rtf_reader.h"
 #include "editor/rtf_writer.h"
 #include "measure.h"
+#include "qttext/formats.h"
 #include "rtf_sample.h"
 #include "ui/aside.h"
-#include "ui/text/qt_formats.h"
 #include "ui/text/qt_rich_text.h"
 #include "ui/text/rich_text_edit.h"
 
@@ -62,7 +62,7 @@ int main(int argc, char** argv) {
   const base::Document document = bench::sampleDocument();
   const std::vector<Piece> pieces = converted(document);
   std::vector<QTextCharFormat> formats;
-  for (const base::CharFormat& format : document.formats) formats.push_back(ui::toQt(format));
+  for (const base::CharFormat& format : document.formats) formats.push_back(qttext::toQt(format));
   const auto nothing = [] { return 0; };
 
   const double alone = bench::medianMilliseconds<bench::ProcessorClock>(kRounds, nothing, [&](int) {

@@ -21,10 +21,11 @@ LEVELS = [
     {"commands"},
     {"lifecycle"},
     {"qtcore"},
+    {"qttext"},
     {"ui", "terminal"},
     {"main.cpp"},
 ]
-QT_FOLDERS = {"qtcore", "ui", "terminal", "main.cpp"}
+QT_FOLDERS = {"qtcore", "qttext", "ui", "terminal", "main.cpp"}
 SUFFIXES = {".h", ".cpp", ".inc", ".def"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
@@ -103,7 +104,7 @@ def check(source):
             target = resolve(header, name, placed) if quoted else None
             if QT_HEADER.search(header):
                 if folder_of(name) not in QT_FOLDERS:
-                    findings.append(f"{place}{header} belongs to Qt, which stays in qtcore/, ui/, terminal/ and main.cpp")
+                    findings.append(f"{place}{header} belongs to Qt, which stays in qtcore/, qttext/, ui/, terminal/ and main.cpp")
             elif quoted and target is None:
                 findings.append(f"{place}there is no {header} in the source")
             if target is None:

@@ -10,7 +10,7 @@
 #include <QPushButton>
 
 #include "base/failure.h"
-#include "ui/text/qt_formats.h"
+#include "qttext/formats.h"
 #include "ui/utf8.h"
 
 namespace ui {
@@ -28,7 +28,7 @@ int answerOf(QDialog& dialog) {
 }  // namespace
 
 base::CharFormat chosenFont(const base::CharFormat& present, QWidget* parent) {
-  QFont drawn = toQt(present).font();
+  QFont drawn = qttext::toQt(present).font();
   // The dialog lists what is installed: instead of a typeface that is not it shows the one that is drawn.
   if (!QFontDatabase::hasFamily(drawn.family())) drawn.setFamilies({QFontInfo(drawn).family()});
   QFontDialog dialog(drawn, parent);
@@ -55,7 +55,7 @@ std::optional<base::Rgb> chosenColour(std::optional<base::Rgb> present, QWidget*
   QObject::connect(automatic, &QPushButton::clicked, &dialog,
                    [&dialog] { static_cast<QDialog&>(dialog).done(kAutomatic); });
   if (answerOf(dialog) == kAutomatic) return std::nullopt;
-  return fromQt(dialog.selectedColor());
+  return qttext::fromQt(dialog.selectedColor());
 }
 
 }  // namespace ui

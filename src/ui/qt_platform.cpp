@@ -1,6 +1,4 @@
 // The world as the desktop shows it.
-#include "ui/qt_platform.h"
-
 #include <QApplication>
 #include <QClipboard>
 #include <QDateTime>
@@ -17,11 +15,12 @@
 #include "base/failure.h"
 #include "base/rich_text.h"
 #include "qtcore/locale.h"
+#include "qtcore/user_settings.h"
 #include "ui/appearance.h"
 #include "ui/format_dialogs.h"
+#include "ui/qt_platform.h"
 #include "ui/system_information.h"
 #include "ui/text/clipboard_formats.h"
-#include "ui/user_settings.h"
 #include "ui/utf8.h"
 #include "ui/volumes.h"
 
@@ -197,9 +196,13 @@ void QtPlatform::setClipboard(const base::Document& document) {
   QGuiApplication::clipboard()->setMimeData(new DocumentMimeData(document));
 }
 
-std::optional<std::string> QtPlatform::userSetting(std::string_view key) const { return storedUserSetting(key); }
+std::optional<std::string> QtPlatform::userSetting(std::string_view key) const {
+  return qtcore::storedUserSetting(key);
+}
 
-void QtPlatform::saveUserSettings(const std::vector<base::UserSetting>& settings) { storeUserSettings(settings); }
+void QtPlatform::saveUserSettings(const std::vector<base::UserSetting>& settings) {
+  qtcore::storeUserSettings(settings);
+}
 
 bool QtPlatform::runAside(const std::function<void()>& work) { return aside_.run(work); }
 

@@ -1,18 +1,12 @@
-// The one place where the texts of the logic (UTF-8) and those of the toolkit (UTF-16) become each other.
-//
-// Nothing is lost or added: a byte-order mark stays, each ill-formed byte becomes one U+FFFD.
+// The texts of the logic and of the toolkit, under the names that the whole screen uses.
 #pragma once
 
-#include <QString>
-#include <QStringView>
-#include <string>
-#include <string_view>
+#include "qtcore/utf8.h"
 
 namespace ui {
 
-QString toQString(std::string_view utf8);
-std::string toUtf8(QStringView text);
-/// For display: line ends of any kind become those that labels and boxes break at.
-QString inShownLines(std::string_view utf8);
+using qtcore::inShownLines;
+using qtcore::toQString;
+using qtcore::toUtf8;
 
 }  // namespace ui

@@ -1,5 +1,5 @@
 // The user's own store, in a directory of the test's own.
-#include "ui/user_settings.h"
+#include "qtcore/user_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +30,7 @@ class UserSettings : public testing::Test {
   /// The failure of storing one value.
   static base::Failure failure() {
     try {
-      storeUserSettings({{.key = "Version", .value = "1.4"}});
+      qtcore::storeUserSettings({{.key = "Version", .value = "1.4"}});
     } catch (const base::Failure& caught) {
       return caught;
     }
@@ -57,22 +57,22 @@ TEST_F(UserSettings, ComeBackUnchangedAndFromTheFile) {
   for (std::size_t i = 0; i < values.size(); ++i) {
     settings.push_back({.key = "Schlüssel " + std::to_string(i), .value = values[i]});
   }
-  storeUserSettings(settings);
+  qtcore::storeUserSettings(settings);
   // Under another name the store is read anew and not from what the toolkit remembers.
   const support::TemporaryDirectory copy;
   std::filesystem::copy(directory_.path(""), copy.path(""), std::filesystem::copy_options::recursive);
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, toQString(copy.path("")));
-  for (const auto& [key, value] : settings) EXPECT_EQ(storedUserSetting(key), value) << key;
-  EXPECT_EQ(storedUserSetting("Schlüssel"), std::nullopt);
+  for (const auto& [key, value] : settings) EXPECT_EQ(qtcore::storedUserSetting(key), value) << key;
+  EXPECT_EQ(qtcore::storedUserSetting("Schlüssel"), std::nullopt);
 }
 
 TEST_F(UserSettings, AreTheUsersOwnAndKeepWhatElseIsStored) {
   writeStore("[Prog]\nFA=A, B\nX=7\n[Fremd]\nX=8\n");
   directory_.write("Tessik.conf", "[Prog]\nRGF=99\n");
-  EXPECT_EQ(storedUserSetting("FA"), "A, B");
-  EXPECT_EQ(storedUserSetting("RGF"), std::nullopt);
-  storeUserSettings({{.key = "X", .value = "1"}, {.key = "X", .value = "2"}});
-  EXPECT_EQ(storedUserSetting("X"), "2");
+  EXPECT_EQ(qtcore::storedUserSetting("FA"), "A, B");
+  EXPECT_EQ(qtcore::storedUserSetting("RGF"), std::nullopt);
+  qtcore::storeUserSettings({{.key = "X", .value = "1"}, {.key = "X", .value = "2"}});
+  EXPECT_EQ(qtcore::storedUserSetting("X"), "2");
   EXPECT_NE(directory_.read(kStore).find("[Fremd]\nX=8\n"), std::string::npos);
 }
 
@@ -81,24 +81,24 @@ TEST_F(UserSettings, ThatCannotBeWrittenAreAFailureThatNamesTheFile) {
   const base::Failure caught = failure();
   EXPECT_EQ(caught.number(), ErrorNumber::permissionDenied);
   EXPECT_NE(caught.text().find(directory_.path(kStore)), std::string::npos) << caught.text();
-  storeBytes("Geometrie", "bytes");
-  EXPECT_EQ(storedUserSetting("Kunde"), std::nullopt);
+  qtcore::storeBytes("Geometrie", "bytes");
+  EXPECT_EQ(qtcore::storedUserSetting("Kunde"), std::nullopt);
 }
 
 TEST_F(UserSettings, OfADamagedStoreAreReportedOnceAndThenWhole) {
   writeStore("[Prog]\nKunde=Meier\nno key and no value\n");
   EXPECT_EQ(failure().number(), ErrorNumber::deviceIo);
   EXPECT_EQ(failure().number(), ErrorNumber::none);
-  EXPECT_EQ(storedUserSetting("Version"), "1.4");
-  EXPECT_EQ(storedUserSetting("Kunde"), "Meier");
+  EXPECT_EQ(qtcore::storedUserSetting("Version"), "1.4");
+  EXPECT_EQ(qtcore::storedUserSetting("Kunde"), "Meier");
 }
 
 TEST_F(UserSettings, StandApartFromWhatWindowsRemember) {
   const QByteArray geometry("\0\x01,\xFF\r\n\"@\0", 9);
-  storeBytes("WinState", geometry);
-  EXPECT_EQ(storedUserSetting("WinState"), std::nullopt);
-  storeUserSettings({{.key = "WinState", .value = "2"}});
-  EXPECT_EQ(storedBytes("WinState"), geometry);
+  qtcore::storeBytes("WinState", geometry);
+  EXPECT_EQ(qtcore::storedUserSetting("WinState"), std::nullopt);
+  qtcore::storeUserSettings({{.key = "WinState", .value = "2"}});
+  EXPECT_EQ(qtcore::storedBytes("WinState"), geometry);
 }
 
 }  // namespace

@@ -3,10 +3,10 @@
 
 #include <QHideEvent>
 
+#include "qtcore/user_settings.h"
 #include "ui/forms/edit_commands.h"
 #include "ui/forms/letter_size.h"
 #include "ui/forms/view_commands.h"
-#include "ui/user_settings.h"
 #include "ui_container.h"
 
 namespace ui {
@@ -37,7 +37,7 @@ ContainerForm::ContainerForm() {
                            kView);
   view_->restore();
   resize(inLettersOnScreen(*this, 104, 36));
-  if (const auto geometry = storedBytes(kGeometryKey)) restoreGeometry(*geometry);
+  if (const auto geometry = qtcore::storedBytes(kGeometryKey)) restoreGeometry(*geometry);
   drawn.rtfTextC->setFocus();
 }
 
@@ -45,7 +45,7 @@ ContainerForm::ContainerForm() {
 void ContainerForm::hideEvent(QHideEvent* event) {
   QMainWindow::hideEvent(event);
   if (event->spontaneous()) return;
-  storeBytes(kGeometryKey, saveGeometry());
+  qtcore::storeBytes(kGeometryKey, saveGeometry());
   view_->save();
 }
 

@@ -6,11 +6,11 @@
 #include <initializer_list>
 #include <utility>
 
+#include "qtcore/user_settings.h"
 #include "ui/appearance.h"
 #include "ui/forms/edit_commands.h"
 #include "ui/forms/letter_size.h"
 #include "ui/forms/view_commands.h"
-#include "ui/user_settings.h"
 #include "ui/widgets/sign_label.h"
 #include "ui_main_window.h"
 
@@ -116,15 +116,15 @@ void MainForm::fitToScreen() {
 }
 
 void MainForm::restoreLayout() {
-  if (const auto geometry = storedBytes(kGeometryKey)) restoreGeometry(*geometry);
+  if (const auto geometry = qtcore::storedBytes(kGeometryKey)) restoreGeometry(*geometry);
   setWindowState(Qt::WindowNoState);  // maximised only when the program's own key says so
-  if (const auto splitter = storedBytes(kSplitterKey)) drawn_->fixTeiler->restoreState(*splitter);
+  if (const auto splitter = qtcore::storedBytes(kSplitterKey)) drawn_->fixTeiler->restoreState(*splitter);
   view_->restore();
 }
 
 void MainForm::saveLayout() const {
-  storeBytes(kGeometryKey, saveGeometry());
-  storeBytes(kSplitterKey, drawn_->fixTeiler->saveState());
+  qtcore::storeBytes(kGeometryKey, saveGeometry());
+  qtcore::storeBytes(kSplitterKey, drawn_->fixTeiler->saveState());
   view_->save();
 }
 

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "qtcore/user_settings.h"
 #include "ui/hunspell_dictionary.h"
-#include "ui/user_settings.h"
 #include "ui/utf8.h"
 
 namespace ui {
@@ -20,11 +20,11 @@ constexpr bool kOrdinary = false;
 
 SpellingAids::SpellingAids(RichTextEdit& edit, QAction& option, editor::Spelling& spelling, TakeIn takeIn)
     : QObject(&edit), edit_(edit), spelling_(spelling), takeIn_(std::move(takeIn)), waves_(edit, spelling) {
-  option.setChecked(storedBytes(kKey).value_or("1") != "0");
+  option.setChecked(qtcore::storedBytes(kKey).value_or("1") != "0");
   waves_.setOn(option.isChecked());
   connect(&option, &QAction::toggled, this, [this](bool isOn) {
     waves_.setOn(isOn);
-    storeBytes(kKey, isOn ? "1" : "0");
+    qtcore::storeBytes(kKey, isOn ? "1" : "0");
   });
   for (QObject* const owner : option.associatedObjects()) {
     auto* const menu = qobject_cast<QMenu*>(owner);

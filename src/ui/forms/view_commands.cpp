@@ -4,8 +4,8 @@
 #include <QAction>
 #include <QToolButton>
 
+#include "qtcore/user_settings.h"
 #include "ui/text/rich_text_edit.h"
-#include "ui/user_settings.h"
 
 namespace ui {
 namespace {
@@ -32,10 +32,10 @@ ViewCommands::ViewCommands(QObject& owner, RichTextEdit& document, const ViewAct
 }
 
 void ViewCommands::restore() const {
-  const int stored = storedBytes(view_.storeKey).value_or(QByteArray()).toInt();
+  const int stored = qtcore::storedBytes(view_.storeKey).value_or(QByteArray()).toInt();
   if (stored > 0) document_.setZoom(stored);
 }
 
-void ViewCommands::save() const { storeBytes(view_.storeKey, QByteArray::number(document_.zoom())); }
+void ViewCommands::save() const { qtcore::storeBytes(view_.storeKey, QByteArray::number(document_.zoom())); }
 
 }  // namespace ui

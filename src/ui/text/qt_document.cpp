@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "ui/text/qt_formats.h"
+#include "qttext/formats.h"
 #include "ui/text/text_entry.h"
 #include "ui/utf8.h"
 
@@ -40,7 +40,7 @@ class Inserter {
   Inserter(QTextCursor& cursor, const base::Document& document)
       : cursor_(cursor), document_(document), around_(cursor) {
     formats_.reserve(document.formats.size());
-    for (const base::CharFormat& format : document.formats) formats_.push_back(toQt(format));
+    for (const base::CharFormat& format : document.formats) formats_.push_back(qttext::toQt(format));
   }
 
   void run() {
@@ -59,7 +59,7 @@ class Inserter {
     const base::Paragraph& paragraph = document_.paragraphs[i];
     const bool isFirst = i == 0;
     const bool isLast = i + 1 == document_.paragraphs.size();
-    ParagraphFormat result{toQt(paragraph.alignment), formats_[paragraph.endFormat]};
+    ParagraphFormat result{qttext::toQt(paragraph.alignment), formats_[paragraph.endFormat]};
     if (isLast && around_.hasTail) result = around_.tail;
     if (isFirst && around_.hasHead) result.block = around_.head.block;
     if (isFirst && isLast && around_.hasHead) result.lineEnd = around_.tail.lineEnd;
@@ -107,7 +107,7 @@ base::Paragraph ParagraphReader::read(const QTextBlock& block, int begin, int en
     result.runs.push_back({static_cast<std::uint32_t>(bytes.size()), number(fragment)});
   }
   result.endFormat = number(block);
-  result.alignment = alignmentOf(block.blockFormat());
+  result.alignment = qttext::alignmentOf(block.blockFormat());
   return result;
 }
 
@@ -120,7 +120,7 @@ std::uint32_t ParagraphReader::number(const Part& part) {
   Known& known = known_[index];
   if (!known.format.isValid() || known.format != format) {
     known = {format, static_cast<std::uint32_t>(formats_.size())};
-    formats_.push_back(fromQt(format));
+    formats_.push_back(qttext::fromQt(format));
   }
   return known.number;
 }
@@ -134,9 +134,9 @@ void exchangeSelection(QTextCursor& cursor, const base::Document& fragment) {
   insertDocument(cursor, fragment);
   QTextCursor first(cursor.document());
   first.setPosition(start);
-  first.mergeBlockFormat(toQt(fragment.paragraphs.front().alignment));
-  cursor.mergeBlockFormat(toQt(fragment.paragraphs.back().alignment));
-  cursor.setBlockCharFormat(toQt(fragment.formats[fragment.paragraphs.back().endFormat]));
+  first.mergeBlockFormat(qttext::toQt(fragment.paragraphs.front().alignment));
+  cursor.mergeBlockFormat(qttext::toQt(fragment.paragraphs.back().alignment));
+  cursor.setBlockCharFormat(qttext::toQt(fragment.formats[fragment.paragraphs.back().endFormat]));
   cursor.endEditBlock();
 }
 

@@ -7,8 +7,8 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "qttext/formats.h"
 #include "ui/text/qt_document.h"
-#include "ui/text/qt_formats.h"
 #include "ui/text/text_entry.h"
 #include "ui/utf8.h"
 
@@ -48,13 +48,13 @@ base::TextCount QtRichText::countSelection() const {
   return edit_.index().countBetween(cursor.selectionStart(), cursor.selectionEnd());
 }
 
-base::CharFormat QtRichText::format() const { return fromQt(edit_.formatAtCaret()); }
+base::CharFormat QtRichText::format() const { return qttext::fromQt(edit_.formatAtCaret()); }
 
-void QtRichText::changeFormat(const base::FormatChange& change) { edit_.mergeFormat(toQt(change)); }
+void QtRichText::changeFormat(const base::FormatChange& change) { edit_.mergeFormat(qttext::toQt(change)); }
 
 base::Alignment QtRichText::alignment() const {
   const QTextCursor cursor = edit_.textCursor();
-  return alignmentOf(edit_.document()->findBlock(cursor.selectionStart()).blockFormat());
+  return qttext::alignmentOf(edit_.document()->findBlock(cursor.selectionStart()).blockFormat());
 }
 
 void QtRichText::setAlignment(base::Alignment alignment) {
@@ -63,7 +63,7 @@ void QtRichText::setAlignment(base::Alignment alignment) {
   const int lastSelected = std::max(start, cursor.selectionEnd() - 1);
   cursor.setPosition(start);
   cursor.setPosition(lastSelected, QTextCursor::KeepAnchor);
-  cursor.mergeBlockFormat(toQt(alignment));
+  cursor.mergeBlockFormat(qttext::toQt(alignment));
 }
 
 void QtRichText::exchange(base::TextSelection place, const base::Document& fragment) {

@@ -13,9 +13,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "qttext/formats.h"
 #include "ui/text/clipboard_formats.h"
 #include "ui/text/qt_document.h"
-#include "ui/text/qt_formats.h"
 
 namespace ui {
 namespace {
@@ -59,7 +59,7 @@ RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), index_(*documen
   makeWhite(*this);
   setTabStopDistance(tabWidth(*this));
   document()->setUndoRedoEnabled(false);
-  const QTextCharFormat fresh = toQt(base::CharFormat{});
+  const QTextCharFormat fresh = qttext::toQt(base::CharFormat{});
   document()->setDefaultFont(fresh.font());
   QTextCursor(document()).setBlockCharFormat(fresh);
   lastFormat_ = formatAtCaret();
@@ -154,7 +154,7 @@ void RichTextEdit::paintEvent(QPaintEvent* event) {
   if (overlay_) overlay_(event->rect());
   const QTextBlock line = textCursor().block();
   const bool isComposing = !line.layout()->preeditAreaText().isEmpty();
-  if (!document()->isEmpty() || isComposing || alignmentOf(line.blockFormat()) != base::Alignment::left) return;
+  if (!document()->isEmpty() || isComposing || qttext::alignmentOf(line.blockFormat()) != base::Alignment::left) return;
   const QRect caret = cursorRect();
   const int gap = fontMetrics().averageCharWidth() / 2;
   const QRect room(caret.right() + gap, caret.top(), viewport()->width() - caret.right() - 2 * gap, caret.height());
@@ -224,7 +224,7 @@ void RichTextEdit::setWhole(const QString& text) {
   const QTextCharFormat format = formatAtCaret();
   replaceWhole([&](QTextCursor& cursor) {
     cursor.removeSelectedText();
-    cursor.setBlockFormat(toQt(base::Alignment::left));
+    cursor.setBlockFormat(qttext::toQt(base::Alignment::left));
     cursor.setBlockCharFormat(format);
     cursor.insertText(text, format);
   });

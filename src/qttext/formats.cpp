@@ -1,13 +1,13 @@
 // The formats of the logic as those of the toolkit.
-#include "ui/text/qt_formats.h"
+#include "qttext/formats.h"
 
 #include <QBrush>
 #include <QColor>
 #include <QFont>
 
-#include "ui/utf8.h"
+#include "qtcore/utf8.h"
 
-namespace ui {
+namespace qttext {
 namespace {
 
 // A brush that draws nothing stands for the automatic colour: unlike none at all it can be merged into a format.
@@ -47,7 +47,7 @@ base::Script scriptOf(const QTextCharFormat& format) {
 
 QTextCharFormat toQt(const base::FormatChange& change) {
   QTextCharFormat result;
-  if (change.family) result.setFontFamilies({toQString(*change.family)});
+  if (change.family) result.setFontFamilies({qtcore::toQString(*change.family)});
   if (change.points) result.setFontPointSize(*change.points);
   if (change.bold) result.setFontWeight(*change.bold ? QFont::Bold : QFont::Normal);
   if (change.italic) result.setFontItalic(*change.italic);
@@ -66,7 +66,7 @@ base::Rgb fromQt(const QColor& colour) {
 base::CharFormat fromQt(const QTextCharFormat& format) {
   base::CharFormat result;
   const QStringList families = format.fontFamilies().toStringList();
-  if (!families.isEmpty()) result.family = toUtf8(families.constFirst());
+  if (!families.isEmpty()) result.family = qtcore::toUtf8(families.constFirst());
   if (format.hasProperty(QTextFormat::FontPointSize)) result.points = format.fontPointSize();
   result.bold = format.hasProperty(QTextFormat::FontWeight) && format.fontWeight() >= QFont::DemiBold;
   result.italic = format.fontItalic();
@@ -104,4 +104,4 @@ base::Alignment alignmentOf(const QTextBlockFormat& format) {
   return base::Alignment::left;
 }
 
-}  // namespace ui
+}  // namespace qttext

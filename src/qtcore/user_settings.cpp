@@ -1,14 +1,14 @@
 // The user's own store on the toolkit's settings.
-#include "ui/user_settings.h"
+#include "qtcore/user_settings.h"
 
 #include <QSettings>
 #include <QStringList>
 #include <QVariant>
 
 #include "base/failure.h"
-#include "ui/utf8.h"
+#include "qtcore/utf8.h"
 
-namespace ui {
+namespace qtcore {
 namespace {
 
 /// One group of the store, open as long as this lives.
@@ -69,4 +69,4 @@ std::optional<QByteArray> storedBytes(std::string_view key) {
 
 void storeBytes(std::string_view key, const QByteArray& bytes) { windows()->setValue(toQString(key), bytes); }
 
-}  // namespace ui
+}  // namespace qtcore

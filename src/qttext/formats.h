@@ -7,7 +7,7 @@
 
 #include "base/rich_text.h"
 
-namespace ui {
+namespace qttext {
 
 /// Says all that `change` does, an automatic colour too, so that it can be merged into formats.
 QTextCharFormat toQt(const base::FormatChange& change);
@@ -20,4 +20,4 @@ base::Rgb fromQt(const QColor& colour);
 QTextBlockFormat toQt(base::Alignment alignment);
 base::Alignment alignmentOf(const QTextBlockFormat& format);
 
-}  // namespace ui
+}  // namespace qttext

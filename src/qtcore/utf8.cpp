@@ -1,11 +1,11 @@
 // Texts of the logic and of the toolkit.
-#include "ui/utf8.h"
+#include "qtcore/utf8.h"
 
 #include <QByteArray>
 
 #include "base/text.h"
 
-namespace ui {
+namespace qtcore {
 
 QString toQString(std::string_view utf8) {
   // The toolkit drops a leading mark and counts ill-formed bytes in its own way.
@@ -23,4 +23,4 @@ QString inShownLines(std::string_view utf8) {
   return toQString(utf8).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n');
 }
 
-}  // namespace ui
+}  // namespace qtcore

@@ -12,7 +12,7 @@
 
 #include "base/platform.h"
 
-namespace ui {
+namespace qtcore {
 
 /// Nothing when the key is missing or the store cannot be read.
 std::optional<std::string> storedUserSetting(std::string_view key);
@@ -24,4 +24,4 @@ void storeUserSettings(const std::vector<base::UserSetting>& settings);
 std::optional<QByteArray> storedBytes(std::string_view key);
 void storeBytes(std::string_view key, const QByteArray& bytes);
 
-}  // namespace ui
+}  // namespace qtcore
