@@ -38,6 +38,12 @@ std::string Platform::clipboardText() const { notAvailable(); }
 std::optional<Document> Platform::clipboardDocument() const { notAvailable(); }
 void Platform::setClipboardText(std::string_view /*text*/) { notAvailable(); }
 void Platform::setClipboard(const Document& /*document*/) { notAvailable(); }
+bool Platform::hasPrinter() { notAvailable(); }
+void Platform::print(const PrintJob& /*job*/) { notAvailable(); }
+void Platform::printPreview(const PrintJob& /*job*/) { notAvailable(); }
+void Platform::printerSetUp() { notAvailable(); }
+std::string Platform::pdf(const PrintJob& /*job*/) { notAvailable(); }
+void Platform::mail(const std::string& /*file*/, const std::string& /*subject*/) { notAvailable(); }
 std::optional<std::string> Platform::userSetting(std::string_view /*key*/) const { notAvailable(); }
 void Platform::saveUserSettings(const std::vector<UserSetting>& /*settings*/) { notAvailable(); }
 NumberFormat Platform::numberFormat() const { notAvailable(); }

@@ -15,6 +15,7 @@
 #include "base/dictionary.h"
 #include "base/document.h"
 #include "base/money.h"
+#include "base/print_job.h"
 #include "base/system_information.h"
 
 namespace base {
@@ -132,6 +133,19 @@ class Platform {
   virtual void setClipboardText(std::string_view text);
   /// Offers text and formats, for whoever pastes to choose.
   virtual void setClipboard(const Document& document);
+
+  /// Whether anything can be printed on. Asks the printing system, which may take its time.
+  [[nodiscard]] virtual bool hasPrinter();
+  /// Asks for printer and pages and prints; leaving the dialog is a Failure (cancelled).
+  virtual void print(const PrintJob& job);
+  /// Shows the pages in a window, from which they can be printed too, and waits until it is closed.
+  virtual void printPreview(const PrintJob& job);
+  /// Asks for the printer, its paper and the like, which stay until the program ends.
+  virtual void printerSetUp();
+  /// The pages as the bytes of a PDF file, which needs no printer.
+  [[nodiscard]] virtual std::string pdf(const PrintJob& job);
+  /// Opens a new message of the desktop's mail program with `file` attached. A desktop without one is a Failure.
+  virtual void mail(const std::string& file, const std::string& subject);
 
   /// A value of the user's own store (application Tessik, section "Prog"); nothing when the key is missing.
   [[nodiscard]] virtual std::optional<std::string> userSetting(std::string_view key) const;

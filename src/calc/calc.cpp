@@ -156,7 +156,8 @@ void enableInputs(Run& run) {
           &w.cmdAufpreisListe, &w.cmdRabatteListe},
          hasText && run.pricePerCharacter > 0);
   enable({&w.mnuSave, &w.cmdSave, &w.mnuCut, &w.mnuCopy, &w.mnuCopyAll, &w.mnuDelete, &w.mnuMarkAll, &w.mnuSort,
-          &w.mnuSuchen, &w.mnuErsetzen, &w.mnuRechtschreibung, &w.mnuNotiz, &w.cmdNotiz},
+          &w.mnuSuchen, &w.mnuErsetzen, &w.mnuRechtschreibung, &w.mnuNotiz, &w.cmdNotiz, &w.mnuPrint, &w.mnuVorschau,
+          &w.mnuPDF, &w.mnuAngebot},
          hasText);
   // Blank lines cost nothing, and neither does a blank that was found.
   enable({&w.mnuLeerzeilen, &w.mnuWeitersuchen, &w.mnuZurücksuchen},

@@ -9,6 +9,7 @@
 #include "commands/note_commands.h"
 #include "commands/options_commands.h"
 #include "commands/price_list_commands.h"
+#include "commands/print_commands.h"
 #include "commands/running_sum_commands.h"
 #include "commands/sort_commands.h"
 #include "commands/spelling_commands.h"
@@ -159,6 +160,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireNote(wiring, parts);
   wireTools(wiring, parts);
   wirePriceLists(wiring, parts);
+  wirePrinting(wiring, parts);
 }
 
 }  // namespace commands

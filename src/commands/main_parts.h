@@ -21,6 +21,7 @@
 #include "options/options_window.h"
 #include "pricelists/price_editor.h"
 #include "pricelists/roll_goods.h"
+#include "printing/offer_window.h"
 #include "settings/settings.h"
 
 namespace commands {
@@ -47,6 +48,7 @@ struct MainParts {
   options::OptionsWindow& optionsDialog;
   calculator::CalculatorWindow& calculator;
   backup::BackupWindow& backup;
+  printing::OfferWindow& offer;
   base::Platform& platform;
   errors::Reporter& reporter;
 };

@@ -1,12 +1,15 @@
 // The text container.
 #include "editor/container.h"
 
+#include <array>
 #include <limits>
 #include <optional>
 #include <string_view>
 
 #include "editor/editing.h"
 #include "editor/text_search.h"
+#include "printing/output.h"
+#include "printing/printouts.h"
 
 namespace editor {
 namespace {
@@ -15,9 +18,14 @@ using base::Event;
 
 constexpr std::string_view kLoadTag = "CONTAINER-LoadNow";
 constexpr std::string_view kSaveTag = "CONTAINER-SaveNow";
+constexpr std::string_view kPrintTag = "CONTAINER-mnuPrint";
 
 DocumentParts documentOf(const ContainerParts& parts) {
   return {.document = parts.document, .text = parts.window.rtfTextC, .undo = parts.undo, .platform = parts.platform};
+}
+
+std::array<base::Control*, 5> textCommands(ContainerWindow& window) {
+  return {&window.mnuMarkAll, &window.mnuPrint, &window.Command2, &window.mnuVorschau, &window.mnuPDF};
 }
 
 // The editing commands are enabled as far as there is something for them.
@@ -27,7 +35,9 @@ void offerEditing(ContainerWindow& window, const UndoStore& undo) {
   window.mnuUndo.enabled = undo.canUndo();
   window.mnuRedo.enabled = undo.canRedo();
   for (base::MenuEntry* const entry : {&window.mnuCut, &window.mnuCopy, &window.mnuClear}) entry->enabled = isMarked;
-  window.mnuMarkAll.enabled = count.characters + count.lineEnds >= 1;
+  for (base::Control* const wantsText : textCommands(window)) {
+    wantsText->enabled = count.characters + count.lineEnds >= 1;
+  }
 }
 
 // What follows every command.
@@ -91,12 +101,26 @@ void search(const ContainerParts& parts) {
   findNext(parts);
 }
 
+base::PrintJob printout(const ContainerParts& parts) {
+  return printing::containerPrintout(parts.window.rtfTextC, parts.platform.now());
+}
+
+void print(const ContainerParts& parts) { printing::print(printout(parts), parts.platform); }
+
+void preview(const ContainerParts& parts) { parts.platform.printPreview(printout(parts)); }
+
+void savePdf(const ContainerParts& parts) {
+  printing::saveAsPdf(printout(parts), printing::pdfNameOf(parts.document.file, "Text-Container"), parts.platform);
+}
+
+void setUpPrinter(const ContainerParts& parts) { printing::setUpPrinter(parts.platform); }
+
 class ContainerWiring {
  public:
   ContainerWiring(base::Wiring& wiring, const ContainerParts& parts) : wiring_(wiring), parts_(parts) {}
 
   template <typename Procedure>
-  void reported(const base::MenuEntry& entry, std::string_view tag, Procedure procedure) {
+  void reported(const base::Control& entry, std::string_view tag, Procedure procedure) {
     wiring_.on(entry, Event::click, [parts = parts_, tag, procedure] {
       errors::reporting(parts.reporter, tag, [&] { procedure(parts); });
       showState(parts);
@@ -138,9 +162,10 @@ void wireEditing(ContainerWiring& on, const ContainerWindow& window) {
 
 // Nothing has been found yet, and there is no text.
 ContainerWindow::ContainerWindow() : Window("frmContainer") {
-  for (base::MenuEntry* const entry : {&mnuFindNext, &mnuUndo, &mnuRedo, &mnuCut, &mnuCopy, &mnuClear, &mnuMarkAll}) {
+  for (base::MenuEntry* const entry : {&mnuFindNext, &mnuUndo, &mnuRedo, &mnuCut, &mnuCopy, &mnuClear}) {
     entry->enabled = false;
   }
+  for (base::Control* const wantsText : textCommands(*this)) wantsText->enabled = false;
 }
 
 void appendToContainer(ContainerWindow& container, UndoStore& undo, const base::Document& block) {
@@ -179,6 +204,11 @@ void wireContainer(base::Wiring& wiring, const ContainerParts& parts) {
   wireEditing(on, window);
   on.reported(window.mnuLoad, kLoadTag, open);
   on.reported(window.mnuSave, kSaveTag, saveContainer);
+  on.reported(window.mnuPrint, kPrintTag, print);
+  on.reported(window.Command2, kPrintTag, print);
+  on.reported(window.mnuVorschau, "CONTAINER-mnuVorschau", preview);
+  on.reported(window.mnuPDF, "CONTAINER-mnuPDF", savePdf);
+  on.reported(window.mnuPrinterConfig, "CONTAINER-mnuPrinterConfig", setUpPrinter);
   on.skipped(window.mnuSearch, search);
   on.skipped(window.mnuFindNext, findNext);
   wiring.onFile(window, [parts](const std::string& path) { openDropped(parts, path); });

@@ -21,6 +21,11 @@ namespace editor {
   CONTROL(base::RichTextBox, rtfTextC)     \
   CONTROL(base::MenuEntry, mnuLoad)        \
   CONTROL(base::MenuEntry, mnuSave)        \
+  CONTROL(base::MenuEntry, mnuPrint)       \
+  CONTROL(base::Button, Command2)          \
+  CONTROL(base::MenuEntry, mnuVorschau)    \
+  CONTROL(base::MenuEntry, mnuPDF)         \
+  CONTROL(base::MenuEntry, mnuPrinterConfig) \
   CONTROL(base::MenuEntry, mnuExit)        \
   CONTROL(base::MenuEntry, mnuUndo)        \
   CONTROL(base::MenuEntry, mnuRedo)        \

@@ -107,6 +107,11 @@ namespace frame {
   CONTROL(base::Button, cmdOpen)                                                               \
   CONTROL(base::Button, cmdSave)                                                               \
   CONTROL(base::MenuEntry, mnuLastFile)                                                        \
+  CONTROL(base::MenuEntry, mnuPrint)                                                           \
+  CONTROL(base::MenuEntry, mnuVorschau)                                                        \
+  CONTROL(base::MenuEntry, mnuPDF)                                                             \
+  CONTROL(base::MenuEntry, mnuPrinterConfig)                                                   \
+  CONTROL(base::MenuEntry, mnuAngebot)                                                         \
   CONTROL(base::MenuEntry, mnuExit)                                                            \
   CONTROL(base::MenuEntry, mnuUndo)                                                            \
   CONTROL(base::MenuEntry, mnuRedo)                                                            \

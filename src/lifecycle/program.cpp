@@ -34,6 +34,7 @@ commands::MainParts partsOf(Program& program) {
           .optionsDialog = program.windows.optionsDialog,
           .calculator = program.windows.calculator,
           .backup = program.windows.backup,
+          .offer = program.windows.offer,
           .platform = program.platform,
           .reporter = program.reporter};
 }

@@ -15,6 +15,7 @@
 #include "options/options_window.h"
 #include "pricelists/price_editor.h"
 #include "pricelists/roll_goods.h"
+#include "printing/offer_window.h"
 
 namespace lifecycle {
 
@@ -32,7 +33,8 @@ namespace lifecycle {
   WINDOW(pricelists::RollGoodsWindow, rollGoods)     \
   WINDOW(pricelists::CsvImportWindow, csvImport)     \
   WINDOW(calculator::CalculatorWindow, calculator)   \
-  WINDOW(backup::BackupWindow, backup)
+  WINDOW(backup::BackupWindow, backup)               \
+  WINDOW(printing::OfferWindow, offer)
 // clang-format on
 
 #define TESSIK_DECLARE_WINDOW(Kind, name) Kind name;

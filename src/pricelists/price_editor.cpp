@@ -17,6 +17,8 @@ constexpr PriceTableKind kPriceList{.list = calc::kCapHeights,
                                     .exportTag = "DATA-Zwischenablage",
                                     .csvImportTag = "DATA-CsvImport",
                                     .csvExportTag = "DATA-CsvExport",
+                                    .printTag = "DATA-cmdPrint",
+                                    .printHeading = "Preisliste - Stand: ",
                                     .timerTag = "DATA-timer1",
                                     .saveTag = "DATA-cmdOK"};
 

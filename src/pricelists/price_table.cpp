@@ -11,6 +11,8 @@
 #include "base/text.h"
 #include "editor/open_document.h"
 #include "pricelists/price_rows.h"
+#include "printing/output.h"
+#include "printing/printouts.h"
 #include "settings/ini.h"
 
 namespace pricelists {
@@ -196,7 +198,7 @@ class Exporting {
   base::Platform& platform_;
 };
 
-void exportToClipboard(const PriceTable& table) {
+std::string listed(const PriceTable& table) {
   PriceTableWindow& window = table.window;
   const int rows = window.List1.items.size();
   Exporting exporting(window.Progress1, table.platform, rows - 1);
@@ -205,8 +207,10 @@ void exportToClipboard(const PriceTable& table) {
     exporting.reach(row);
     listing += listingLine(window.List1.items[row], window.List2.items[row]);
   }
-  table.platform.setClipboardText(listing);
+  return listing;
 }
+
+void exportToClipboard(const PriceTable& table) { table.platform.setClipboardText(listed(table)); }
 
 std::vector<std::string> joined(const base::ItemList& items, std::vector<std::string> more) {
   std::vector<std::string> all(items.begin(), items.end());
@@ -233,6 +237,16 @@ void exportCsv(const PriceTable& table) {
   exportByDialog(std::string(table.kind.list.names),
                  writeCsv(table.kind.csvHeading, window.List1.items, window.List2.items), table.platform);
 }
+
+base::PrintJob printout(const PriceTable& table) {
+  return printing::listing(std::string(table.kind.printHeading) + base::dateText(table.platform.now()), listed(table));
+}
+
+void print(const PriceTable& table) { printing::print(printout(table), table.platform); }
+
+void preview(const PriceTable& table) { table.platform.printPreview(printout(table)); }
+
+void savePdf(const PriceTable& table) { printing::saveAsPdf(printout(table), "Preisliste.pdf", table.platform); }
 
 // A name that a hand has put into the file in quotes may be blank without them, and would end the list there.
 std::string storedName(const std::string& name) { return leavesNoName(name) ? "\"" + name + "\"" : name; }
@@ -311,6 +325,9 @@ void wireCommands(base::Wiring& wiring, const PriceTable& table) {
   wiring.on(window.Command3, Event::click, command(table, kind.exportTag, exportToClipboard));
   wiring.on(window.cmdCsvImport, Event::click, command(table, kind.csvImportTag, importCsv));
   wiring.on(window.cmdCsvExport, Event::click, command(table, kind.csvExportTag, exportCsv));
+  wiring.on(window.Command5, Event::click, command(table, kind.printTag, print));
+  wiring.on(window.cmdVorschau, Event::click, command(table, kind.printTag, preview));
+  wiring.on(window.cmdPDF, Event::click, command(table, kind.printTag, savePdf));
   wiring.on(window.Command2, Event::click, command(table, kind.saveTag, saveAndClose));
 }
 

@@ -37,6 +37,9 @@ namespace pricelists {
   CONTROL(base::Button, Command3)           /* to the clipboard */                        \
   CONTROL(base::Button, cmdCsvImport)                                                     \
   CONTROL(base::Button, cmdCsvExport)                                                     \
+  CONTROL(base::Button, Command5)           /* prints */                                  \
+  CONTROL(base::Button, cmdVorschau)                                                      \
+  CONTROL(base::Button, cmdPDF)                                                           \
   CONTROL(base::Button, Command2)           /* saves and closes */                        \
   CONTROL(base::ProgressBar, Progress1)                                                   \
   CONTROL(base::MenuEntry, mnuHinzufügen)                                                 \
@@ -72,6 +75,8 @@ struct PriceTableKind {
   std::string_view exportTag;
   std::string_view csvImportTag;
   std::string_view csvExportTag;
+  std::string_view printTag;
+  std::string_view printHeading;  // the date follows
   std::string_view timerTag;
   std::string_view saveTag;
 };

@@ -29,6 +29,8 @@ constexpr PriceTableKind kFoils{
     .exportTag = "VOLL-Zwischenablage",
     .csvImportTag = "VOLL-CsvImport",
     .csvExportTag = "VOLL-CsvExport",
+    .printTag = "VOLL-cmdPrint",
+    .printHeading = "Preisliste Folien - Stand: ",
     .timerTag = "VOLL-timer1",
     .saveTag = "VOLL-cmdOK",
 };

@@ -12,7 +12,8 @@ namespace terminal {
 const char* const kPriceHelp =
     R"(Aufruf: tessik kalkuliere [Optionen]
 
-Berechnet den Preis einer Beschriftung und gibt ihn als Tabelle aus. Es wird nur gelesen, nichts angelegt oder geändert.
+Berechnet den Preis einer Beschriftung und gibt ihn als Tabelle aus. Es wird nur gelesen, nichts angelegt oder
+geändert, außer der Datei, die --pdf nennt.
 
   --daten DIR              Verzeichnis mit Ostrowerk.ini, Tessik.ini und Tessik.pdb
   --text TEXT              die Beschriftung
@@ -32,6 +33,9 @@ Berechnet den Preis einer Beschriftung und gibt ihn als Tabelle aus. Es wird nur
   --leerzeichen 0|1        Leerzeichen mitzählen (1) oder nicht (0)
   --json                   Ausgabe als JSON-Objekt
   --notiz                  Ausgabe als Angebotsnotiz, wie sie der Text-Container aufnimmt
+  --pdf DATEI              schreibt das Angebot als PDF-Datei, wie es der Dialog "Angebot" zuletzt eingestellt hat
+  --kunde TEXT             Kunde auf dem Angebot statt des gespeicherten
+  --kommentar TEXT         Kommentar auf dem Angebot statt des gespeicherten
   --help, --version        diese Hilfe, die Version
 
 Ende mit 0, bei einem Fehler mit 1, bei falschen Argumenten mit 2.
@@ -68,6 +72,9 @@ constexpr std::array kTextOptions = {
     TextOption{"--rabatt-prozent", &PriceRequest::discountPercentage},
     TextOption{"--rabatt-betrag", &PriceRequest::discountAmount},
     TextOption{"--einheit", &PriceRequest::unit},
+    TextOption{"--pdf", &PriceRequest::pdf},
+    TextOption{"--kunde", &PriceRequest::customer},
+    TextOption{"--kommentar", &PriceRequest::comment},
 };
 
 constexpr std::array kNumberOptions = {
@@ -151,6 +158,7 @@ void exclude(const First& first, const Second& second, std::string_view names) {
 PriceRequest parseArguments(std::span<const std::string> arguments) {
   PriceRequest request = Reader(arguments).read();
   exclude(request.json, request.note, "--json oder --notiz");
+  exclude(request.json || request.note, request.pdf, "--pdf oder eine andere Ausgabe");
   exclude(request.text, request.file, "--text oder --datei");
   exclude(request.height, request.heightIndex, "--hoehe oder --hoehe-nr");
   exclude(request.surchargePercentage, request.surchargeAmount, "--aufpreis-prozent oder --aufpreis-betrag");

@@ -13,7 +13,10 @@ struct PriceRequest {
   bool help = false;
   bool version = false;
   bool json = false;
-  bool note = false;  // the offer note instead of the table
+  bool note = false;               // the offer note instead of the table
+  std::optional<std::string> pdf;  // the file for the offer
+  std::optional<std::string> customer;
+  std::optional<std::string> comment;
   std::optional<std::string> programDirectory;
   std::optional<std::string> text;
   std::optional<std::string> file;

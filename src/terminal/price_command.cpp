@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "base/encoding.h"
+#include "base/file_replacement.h"
 #include "base/files.h"
 #include "base/number.h"
 #include "base/text.h"
@@ -28,7 +29,9 @@
 #include "lifecycle/assembly.h"
 #include "lifecycle/first_use.h"
 #include "lifecycle/program_directory.h"
+#include "printing/offer.h"
 #include "settings/settings_files.h"
+#include "settings/user_keys.h"
 #include "terminal/arguments.h"
 #include "terminal/output.h"
 #include "terminal/terminal_platform.h"
@@ -185,6 +188,20 @@ void typeAmounts(const base::Wiring& wiring, frame::MainWindow& window, const Pr
   type(wiring, window.txtRabattDM, request.discountAmount, "--rabatt-betrag");
 }
 
+// As the dialog of the window was left, unless the request says otherwise. There is nothing to tell.
+std::string writeOffer(lifecycle::Program& program, const PriceRequest& request) {
+  base::Platform& platform = program.platform;
+  settings::readUserKeys(platform, program.settings.user);
+  printing::OfferWording wording = printing::storedWording(platform);
+  wording.customer = request.customer.value_or(wording.customer);
+  wording.comment = request.comment.value_or(wording.comment);
+  const base::PrintJob offer =
+      printing::offer({.window = program.windows.main, .results = program.results, .rates = program.settings.rates},
+                      wording, program.settings.user.companyAddress, platform.now());
+  base::replaceFile(*request.pdf, platform.pdf(offer));
+  return {};
+}
+
 std::string price(const PriceRequest& request, const Streams& streams) {
   TerminalPlatform platform;
   const lifecycle::ProgramDirectory directory = chosenDirectory(request);
@@ -202,6 +219,7 @@ std::string price(const PriceRequest& request, const Streams& streams) {
   calculate(parts);
   typeAmounts(program.wiring, parts.window, request);
   if (platform.message()) throw base::Failure(base::ErrorNumber::none, platform.message()->text);
+  if (request.pdf) return writeOffer(program, request);
   if (request.note) return base::plainText(calc::offerNote(parts.window, parts.settings.rates.unit));
   return request.json ? json(parts.window) : table(parts.window);
 }

@@ -1,7 +1,10 @@
 // The world as the terminal form sees it.
 #include "terminal/terminal_platform.h"
 
+#include "qtcore/clock.h"
 #include "qtcore/locale.h"
+#include "qtcore/user_settings.h"
+#include "qttext/pdf.h"
 
 namespace terminal {
 
@@ -17,6 +20,14 @@ base::MessageAnswer TerminalPlatform::messageBox(const base::Message& message) {
   }
   return base::MessageAnswer::ok;
 }
+
+base::DateTime TerminalPlatform::now() const { return qtcore::now(); }
+
+std::optional<std::string> TerminalPlatform::userSetting(std::string_view key) const {
+  return qtcore::storedUserSetting(key);
+}
+
+std::string TerminalPlatform::pdf(const base::PrintJob& job) { return qttext::pdfWithoutScreen(job); }
 
 base::NumberFormat TerminalPlatform::numberFormat() const { return qtcore::userNumberFormat(); }
 

@@ -16,6 +16,9 @@ class TerminalPlatform : public base::Platform {
   void refresh() override {}
   void beep() override {}
   void setHourglass(base::Hourglass /*hourglass*/) override {}
+  [[nodiscard]] base::DateTime now() const override;
+  [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
+  [[nodiscard]] std::string pdf(const base::PrintJob& job) override;
   [[nodiscard]] base::NumberFormat numberFormat() const override;
   [[nodiscard]] std::string composed(std::string_view text) const override;
 

@@ -1,7 +1,8 @@
 // The world as the desktop shows it.
+#include "ui/qt_platform.h"
+
 #include <QApplication>
 #include <QClipboard>
-#include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -14,11 +15,13 @@
 
 #include "base/failure.h"
 #include "base/rich_text.h"
+#include "qtcore/clock.h"
 #include "qtcore/locale.h"
 #include "qtcore/user_settings.h"
+#include "qttext/pdf.h"
 #include "ui/appearance.h"
 #include "ui/format_dialogs.h"
-#include "ui/qt_platform.h"
+#include "ui/printing/mail.h"
 #include "ui/system_information.h"
 #include "ui/text/clipboard_formats.h"
 #include "ui/utf8.h"
@@ -85,6 +88,18 @@ std::string chosen(const QString& path) {
   QDir::setCurrent(QFileInfo(path).absolutePath());
   return toUtf8(path);
 }
+
+// The hourglass for the time that this lives; an end by a failure does not leave it on.
+class Busy {
+ public:
+  explicit Busy(QtPlatform& platform) : platform_(platform) { platform.setHourglass(base::Hourglass::on); }
+  ~Busy() { platform_.setHourglass(base::Hourglass::off); }
+  Busy(const Busy&) = delete;
+  Busy& operator=(const Busy&) = delete;
+
+ private:
+  QtPlatform& platform_;
+};
 
 }  // namespace
 
@@ -156,17 +171,7 @@ bool QtPlatform::escapePressed() {
   return input_.escapePressed();
 }
 
-base::DateTime QtPlatform::now() const {
-  const QDateTime moment = QDateTime::currentDateTime();
-  const QDate date = moment.date();
-  const QTime time = moment.time();
-  return {.year = date.year(),
-          .month = date.month(),
-          .day = date.day(),
-          .hour = time.hour(),
-          .minute = time.minute(),
-          .second = time.second()};
-}
+base::DateTime QtPlatform::now() const { return qtcore::now(); }
 
 // In pixels of the screen, of which a scaled desktop counts fewer.
 int QtPlatform::screenWidth() const {
@@ -194,6 +199,41 @@ void QtPlatform::setClipboardText(std::string_view text) { QGuiApplication::clip
 
 void QtPlatform::setClipboard(const base::Document& document) {
   QGuiApplication::clipboard()->setMimeData(new DocumentMimeData(document));
+}
+
+bool QtPlatform::hasPrinter() {
+  const Busy busy(*this);
+  return Printing::hasPrinter();
+}
+
+void QtPlatform::print(const base::PrintJob& job) {
+  std::optional<Gate::ModalWait> wait(gate_);
+  std::optional<Busy> busy;
+  const auto begun = [&] {
+    wait.reset();
+    busy.emplace(*this);
+  };
+  printing_.print(job, begun, [this] { refresh(); });
+}
+
+void QtPlatform::printPreview(const base::PrintJob& job) {
+  const Gate::ModalWait wait(gate_);
+  printing_.preview(job);
+}
+
+void QtPlatform::printerSetUp() {
+  const Gate::ModalWait wait(gate_);
+  printing_.setUp();
+}
+
+std::string QtPlatform::pdf(const base::PrintJob& job) {
+  const Busy busy(*this);
+  return qttext::pdf(job, {}, [this] { refresh(); });
+}
+
+void QtPlatform::mail(const std::string& file, const std::string& subject) {
+  const Busy busy(*this);
+  composeMail(file, subject);
 }
 
 std::optional<std::string> QtPlatform::userSetting(std::string_view key) const {

@@ -18,6 +18,7 @@
 #include "ui/binding/input_filter.h"
 #include "ui/binding/sync.h"
 #include "ui/hunspell_dictionary.h"
+#include "ui/printing/printing.h"
 #include "ui/shown_windows.h"
 
 namespace ui {
@@ -58,6 +59,12 @@ class QtPlatform : public base::Platform {
   [[nodiscard]] std::optional<base::Document> clipboardDocument() const override;
   void setClipboardText(std::string_view text) override;
   void setClipboard(const base::Document& document) override;
+  [[nodiscard]] bool hasPrinter() override;
+  void print(const base::PrintJob& job) override;
+  void printPreview(const base::PrintJob& job) override;
+  void printerSetUp() override;
+  [[nodiscard]] std::string pdf(const base::PrintJob& job) override;
+  void mail(const std::string& file, const std::string& subject) override;
   [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
   void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   [[nodiscard]] base::NumberFormat numberFormat() const override;
@@ -72,6 +79,7 @@ class QtPlatform : public base::Platform {
   ShownWindows& windows_;
   std::function<void()> bell_;
   Aside aside_;
+  Printing printing_;
   std::unique_ptr<HunspellDictionary> dictionary_;
   bool hasHourglass_ = false;
   bool isUnattended_ = false;

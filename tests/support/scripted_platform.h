@@ -61,7 +61,9 @@ class ScriptedPlatform : public base::Platform {
   std::optional<base::CharFormat> font;
   std::optional<std::optional<base::Rgb>> colour;
   int beeps = 0;
-  bool escape = false;  // was pressed
+  int printers = 1;
+  std::vector<base::PrintJob> printed;  // previewed and saved ones too
+  bool escape = false;                  // was pressed
   bool asideFails = false;
   base::Hourglass hourglass = base::Hourglass::off;
   base::NumberFormat format;
@@ -100,6 +102,12 @@ class ScriptedPlatform : public base::Platform {
   }
   base::CharFormat askFont(const base::CharFormat& /*present*/) override { return answered(font); }
   std::optional<base::Rgb> askColour(std::optional<base::Rgb> /*present*/) override { return answered(colour); }
+  [[nodiscard]] bool hasPrinter() override { return printers > 0; }
+  void print(const base::PrintJob& job) override { printed.push_back(job); }
+  void printPreview(const base::PrintJob& job) override { printed.push_back(job); }
+  void printerSetUp() override { log.emplace_back("printer"); }
+  [[nodiscard]] std::string pdf(const base::PrintJob& job) override { return printed.push_back(job), job.title; }
+  void mail(const std::string& file, const std::string& subject) override { log.push_back(subject + ": " + file); }
   [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
   void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   void setHourglass(base::Hourglass value) override { hourglass = value; }

@@ -60,6 +60,14 @@ TEST_F(PriceCommand, PricesWithTheStoredSettings) {
             "Bruttopreis in DM                85,08 DM\n");
 }
 
+TEST_F(PriceCommand, WritesTheOfferAsPdfFile) {
+  const std::string file = directory.path("Angebot.pdf");
+  const Outcome outcome = run({"--text", "ABC", "--kunde", "Maß", "--pdf", file});
+  EXPECT_EQ(outcome.out + outcome.error, "");
+  EXPECT_TRUE(directory.read("Angebot.pdf").starts_with("%PDF-"));
+  EXPECT_EQ(run({"--text", "ABC", "--pdf", directory.path("fehlt/x.pdf")}).exitCode, terminal::kExitFailure);
+}
+
 TEST_F(PriceCommand, PrintsTheNoteThatTheContainerReceives) {
   const Outcome outcome = run({"--text", "ABCDE\nFGHIJ", "--stueck", "3", "--notiz"});
   EXPECT_EQ(outcome.out,

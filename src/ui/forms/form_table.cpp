@@ -16,6 +16,7 @@
 #include "ui_calculator.h"
 #include "ui_csv_import.h"
 #include "ui_loading.h"
+#include "ui_offer.h"
 #include "ui_options.h"
 #include "ui_picker.h"
 #include "ui_price_editor.h"
@@ -91,6 +92,7 @@ constexpr std::array kForms = {
     Form{"frmOptions", dialog<Ui::OptionsForm, 126, 34>},
     Form{"frmCalc", calculator},
     Form{"frmBackup", dialog<Ui::BackupForm, 120, 30>},
+    Form{"frmAngebot", dialog<Ui::OfferForm, 96, 36>},
     Form{"frmData", dialog<Ui::PriceEditorForm, 84, 36>},
     Form{"frmCsvImport", csvImport},
     Form{"frmVoll", dialog<Ui::RollGoodsForm, 128, 34>},
