@@ -114,7 +114,7 @@ std::vector<PrintRow> jobRows(const PricedLettering& priced, const OfferSwitches
 
 const char* nameOf(base::Currency adjustment) {
   if (adjustment == base::Currency()) return "Aufpreis/Rabatt";
-  return adjustment < base::Currency() ? "Rabatt" : "Aufpreis";
+  return adjustment.tenThousandths() < 0 ? "Rabatt" : "Aufpreis";
 }
 
 std::vector<PrintRow> priceRows(const PricedLettering& priced, const OfferSwitches& told) {

@@ -128,14 +128,17 @@ Pages::Pages(const base::PrintJob& job, QPagedPaintDevice& device)
   text_.setUndoRedoEnabled(false);
   text_.setUseDesignMetrics(true);
   text_.setDocumentMargin(0);
-  text_.documentLayout()->setPaintDevice(&device);
   write(job);
+  text_.documentLayout()->setPaintDevice(&device);
   text_.setPageSize(body_.size());
 }
 
 void Pages::write(const base::PrintJob& job) {
+  QTextCursor whole(&text_);
+  whole.beginEditBlock();
   Writer writer(text_);
   for (const base::PrintPart& part : job.parts) std::visit(writer, part);
+  whole.endEditBlock();
 }
 
 double Pages::millimetres(double length) const { return length * device_.logicalDpiY() / kMillimetresPerInch; }

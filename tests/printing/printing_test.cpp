@@ -14,7 +14,6 @@ namespace {
 
 using base::Event;
 using base::PrintJob;
-using base::TextSelection;
 using Lines = std::vector<std::string>;
 
 // As the page shows it from top to bottom: texts with "|" for line ends, rows as "label: value", "=" before totals.
