@@ -6,8 +6,10 @@
 #include <QPageRanges>
 #include <QTextCursor>
 #include <QTextTable>
+#include <algorithm>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "base/failure.h"
 #include "qtcore/utf8.h"
@@ -118,6 +120,15 @@ class Writer {
   bool isAtFreshParagraph_ = true;
 };
 
+std::vector<int> wantedPages(int count, const QPageRanges& ranges, PageOrder order) {
+  std::vector<int> numbers;
+  for (int number = 1; number <= count; ++number) {
+    if (ranges.isEmpty() || ranges.contains(number)) numbers.push_back(number);
+  }
+  if (order == PageOrder::lastFirst) std::reverse(numbers.begin(), numbers.end());
+  return numbers;
+}
+
 }  // namespace
 
 Pages::Pages(const base::PrintJob& job, QPagedPaintDevice& device)
@@ -180,17 +191,16 @@ void Pages::paintText(QPainter& painter, int number) {
   painter.restore();
 }
 
-void printPages(const base::PrintJob& job, QPagedPaintDevice& device, const std::function<void()>& eachPage) {
+void printPages(const base::PrintJob& job, QPagedPaintDevice& device, PageOrder order,
+                const std::function<void()>& eachPage) {
   const auto refused = [] {
     return base::Failure(base::ErrorNumber::deviceIo, "Der Drucker hat die Seiten nicht angenommen.");
   };
   QPainter painter;
   if (!painter.begin(&device)) throw refused();
   Pages pages(job, device);
-  const QPageRanges wanted = device.pageRanges();
   bool isFirst = true;
-  for (int number = 1; number <= pages.count(); ++number) {
-    if (!wanted.isEmpty() && !wanted.contains(number)) continue;
+  for (const int number : wantedPages(pages.count(), device.pageRanges(), order)) {
     if (!isFirst && !device.newPage()) throw refused();
     isFirst = false;
     pages.paint(painter, number);

@@ -39,8 +39,11 @@ class Pages {
   QTextDocument text_;
 };
 
+enum class PageOrder { firstFirst, lastFirst };
+
 /// Prints the pages that the device is asked for, or all. `eachPage` runs after each. A device that does not take them
 /// is a Failure.
-void printPages(const base::PrintJob& job, QPagedPaintDevice& device, const std::function<void()>& eachPage = {});
+void printPages(const base::PrintJob& job, QPagedPaintDevice& device, PageOrder order = PageOrder::firstFirst,
+                const std::function<void()>& eachPage = {});
 
 }  // namespace qttext

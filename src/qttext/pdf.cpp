@@ -8,7 +8,6 @@
 
 #include "base/version.h"
 #include "qtcore/utf8.h"
-#include "qttext/pages.h"
 
 namespace qttext {
 
@@ -25,7 +24,7 @@ std::string pdf(const base::PrintJob& job, const PdfPages& pages, const std::fun
     writer.setCreator(qtcore::toQString(base::versionLine()));
     writer.setPageLayout(pages.layout);
     writer.setPageRanges(pages.ranges);
-    printPages(job, writer, eachPage);
+    printPages(job, writer, pages.order, eachPage);
   }
   return bytes.data().toStdString();
 }

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/print_job.h"
+#include "qttext/pages.h"
 
 namespace qttext {
 
@@ -17,6 +18,7 @@ QPageLayout ordinaryPaper();
 struct PdfPages {
   QPageLayout layout = ordinaryPaper();
   QPageRanges ranges = {};  // empty: all
+  PageOrder order = PageOrder::firstFirst;
 };
 
 /// The bytes of a PDF file; wants a QGuiApplication. Typefaces are embedded.

@@ -32,11 +32,13 @@ void execute(QDialog& dialog) {
 
 // A file is replaced whole, and its name is told when it cannot be written.
 void printOn(QPrinter& printer, const base::PrintJob& job, const EachPage& eachPage) {
+  const bool isReversed = printer.pageOrder() == QPrinter::LastPageFirst;
+  const auto order = isReversed ? qttext::PageOrder::lastFirst : qttext::PageOrder::firstFirst;
   if (printer.outputFormat() == QPrinter::PdfFormat) {
-    const std::string bytes = qttext::pdf(job, {printer.pageLayout(), printer.pageRanges()}, eachPage);
+    const std::string bytes = qttext::pdf(job, {printer.pageLayout(), printer.pageRanges(), order}, eachPage);
     return base::replaceFile(toUtf8(printer.outputFileName()), bytes);
   }
-  qttext::printPages(job, printer, eachPage);
+  qttext::printPages(job, printer, order, eachPage);
   if (printer.printerState() == QPrinter::Error) {
     throw base::Failure(base::ErrorNumber::deviceIo, "Der Drucker meldet einen Fehler.");
   }
@@ -49,7 +51,7 @@ Printing::~Printing() = default;
 
 bool Printing::hasPrinter() { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
 
-// Once there was none, one may have been installed since.
+// Once there was none, one may have been installed since. Pages are chosen anew for each job.
 QPrinter& Printing::printer() {
   if (!printer_ || printer_->printerName().isEmpty()) {
     printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
@@ -57,6 +59,8 @@ QPrinter& Printing::printer() {
     printer_->setCreator(toQString(base::versionLine()));
     printer_->setPageMargins(qttext::kPageMargins, QPageLayout::Millimeter);
   }
+  printer_->setPrintRange(QPrinter::AllPages);
+  printer_->setPageRanges({});
   return *printer_;
 }
 
@@ -77,7 +81,7 @@ void Printing::print(const base::PrintJob& job, const EachPage& begun, const Eac
   dialog.setWindowTitle(QStringLiteral("Drucken"));
   execute(dialog);
   begun();
-  printOn(printer(), job, eachPage);
+  printOn(*printer_, job, eachPage);
 }
 
 // Nothing is thrown through the toolkit: what fails in the preview is told behind it.
