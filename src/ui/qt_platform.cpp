@@ -213,17 +213,17 @@ void QtPlatform::print(const base::PrintJob& job) {
     wait.reset();
     busy.emplace(*this);
   };
-  printing_.print(job, begun, [this] { refresh(); });
+  printing_.print(job, windows_.inFront(), begun, [this] { refresh(); });
 }
 
 void QtPlatform::printPreview(const base::PrintJob& job) {
   const Gate::ModalWait wait(gate_);
-  printing_.preview(job);
+  printing_.preview(job, windows_.inFront());
 }
 
 void QtPlatform::printerSetUp() {
   const Gate::ModalWait wait(gate_);
-  printing_.setUp();
+  printing_.setUp(windows_.inFront());
 }
 
 std::string QtPlatform::pdf(const base::PrintJob& job) {

@@ -1,7 +1,6 @@
 // The desktop's printers, print dialogs and preview.
 #include "ui/printing/printing.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QPageLayout>
 #include <QPrintDialog>
@@ -64,8 +63,8 @@ QPrinter& Printing::printer() {
   return *printer_;
 }
 
-void Printing::setUp() {
-  QPrintDialog dialog(&printer(), QApplication::activeWindow());
+void Printing::setUp(QWidget* parent) {
+  QPrintDialog dialog(&printer(), parent);
   dialog.setWindowTitle(QStringLiteral("Drucker einrichten"));
   for (const auto option : {QAbstractPrintDialog::PrintPageRange, QAbstractPrintDialog::PrintToFile}) {
     dialog.setOption(option, false);
@@ -76,8 +75,8 @@ void Printing::setUp() {
   execute(dialog);
 }
 
-void Printing::print(const base::PrintJob& job, const EachPage& begun, const EachPage& eachPage) {
-  QPrintDialog dialog(&printer(), QApplication::activeWindow());
+void Printing::print(const base::PrintJob& job, QWidget* parent, const EachPage& begun, const EachPage& eachPage) {
+  QPrintDialog dialog(&printer(), parent);
   dialog.setWindowTitle(QStringLiteral("Drucken"));
   execute(dialog);
   begun();
@@ -85,9 +84,9 @@ void Printing::print(const base::PrintJob& job, const EachPage& begun, const Eac
 }
 
 // Nothing is thrown through the toolkit: what fails in the preview is told behind it.
-void Printing::preview(const base::PrintJob& job) {
+void Printing::preview(const base::PrintJob& job, QWidget* parent) {
   std::exception_ptr failure;
-  QPrintPreviewDialog dialog(&printer(), QApplication::activeWindow());
+  QPrintPreviewDialog dialog(&printer(), parent);
   dialog.setWindowTitle(QStringLiteral("Seitenansicht"));
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* device) {
     try {

@@ -9,6 +9,7 @@
 #include "base/print_job.h"
 
 class QPrinter;
+class QWidget;
 
 namespace ui {
 
@@ -23,10 +24,11 @@ class Printing {
 
   /// Asks for the printer, its paper and the like, and keeps them. Leaving the dialog is a Failure (cancelled), here
   /// and below.
-  void setUp();
+  void setUp(QWidget* parent);
   /// Asks for pages too; `begun` runs once that is answered.
-  void print(const base::PrintJob& job, const std::function<void()>& begun, const std::function<void()>& eachPage);
-  void preview(const base::PrintJob& job);
+  void print(const base::PrintJob& job, QWidget* parent, const std::function<void()>& begun,
+             const std::function<void()>& eachPage);
+  void preview(const base::PrintJob& job, QWidget* parent);
 
  private:
   QPrinter& printer();
