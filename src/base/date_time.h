@@ -16,6 +16,13 @@ struct DateTime {
   bool operator==(const DateTime&) const = default;
 };
 
+/// How dates and times are written where the program runs.
+struct DateFormat {
+  // Each one character of ASCII.
+  std::string dateSeparator = ".";
+  std::string timeSeparator = ":";
+};
+
 /// "21.11.2026"
 std::string dateText(const DateTime& moment);
 /// "09:05:00"

@@ -29,6 +29,13 @@ bool Platform::runAside(const std::function<void()>& /*work*/) { notAvailable();
 std::optional<bool> Platform::asideSucceeded() { notAvailable(); }
 void Platform::awaitAside() { notAvailable(); }
 void Platform::beep() { notAvailable(); }
+int Platform::soundDevices() const { return 0; }
+bool Platform::openSound(const std::string& /*path*/) { return false; }
+void Platform::playSound() { notAvailable(); }
+void Platform::stopSound() { notAvailable(); }
+void Platform::closeSound() { notAvailable(); }
+std::string Platform::ownChime() const { return {}; }
+void Platform::notify(const Notification& /*notification*/) {}
 DateTime Platform::now() const { notAvailable(); }
 int Platform::screenWidth() const { notAvailable(); }
 SystemInformation Platform::systemInformation() const { notAvailable(); }
@@ -47,6 +54,9 @@ void Platform::mail(const std::string& /*file*/, const std::string& /*subject*/)
 std::optional<std::string> Platform::userSetting(std::string_view /*key*/) const { notAvailable(); }
 void Platform::saveUserSettings(const std::vector<UserSetting>& /*settings*/) { notAvailable(); }
 NumberFormat Platform::numberFormat() const { notAvailable(); }
+DateFormat Platform::dateFormat() const { notAvailable(); }
+std::string Platform::regionalDate(const DateTime& /*moment*/) const { notAvailable(); }
+std::string Platform::regionalTime(const DateTime& /*moment*/) const { notAvailable(); }
 std::string Platform::composed(std::string_view /*text*/) const { notAvailable(); }
 std::vector<std::string> Platform::fontFamilies() const { notAvailable(); }
 Dictionary* Platform::dictionary() { return nullptr; }

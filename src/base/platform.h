@@ -60,6 +60,14 @@ struct UserSetting {
   bool operator==(const UserSetting&) const = default;
 };
 
+/// What the desktop tells beside all windows.
+struct Notification {
+  std::string title;
+  std::string text;
+
+  bool operator==(const Notification&) const = default;
+};
+
 /// A place of the machine that holds files, under a name that people know it by.
 struct Volume {
   std::string name;
@@ -113,6 +121,20 @@ class Platform {
 
   /// The sound of a refused action.
   virtual void beep();
+  /// How many devices can play a sound.
+  [[nodiscard]] virtual int soundDevices() const;
+  /// Opens a wave file, which takes the place of the one before; false when it cannot be played.
+  virtual bool openSound(const std::string& path);
+  /// Plays what is open and does not wait for its end.
+  virtual void playSound();
+  virtual void stopSound();
+  virtual void closeSound();
+  /// The wave file that comes with the program.
+  [[nodiscard]] virtual std::string ownChime() const;
+
+  /// Tells something urgent that stays until the person takes it away. Where the desktop has no place for that, nothing
+  /// happens.
+  virtual void notify(const Notification& notification);
 
   /// Moments of the local time.
   [[nodiscard]] virtual DateTime now() const;
@@ -154,6 +176,10 @@ class Platform {
 
   /// The separators of the user's locale.
   [[nodiscard]] virtual NumberFormat numberFormat() const;
+  [[nodiscard]] virtual DateFormat dateFormat() const;
+  /// The date and the time of day as the user's locale writes them.
+  [[nodiscard]] virtual std::string regionalDate(const DateTime& moment) const;
+  [[nodiscard]] virtual std::string regionalTime(const DateTime& moment) const;
   /// `text` in Unicode normalization form C.
   [[nodiscard]] virtual std::string composed(std::string_view text) const;
   /// The German dictionary, read when it is first asked for; null while there is none that can be read.

@@ -8,6 +8,7 @@
 #include "commands/format_commands.h"
 #include "commands/note_commands.h"
 #include "commands/options_commands.h"
+#include "commands/planner_commands.h"
 #include "commands/price_list_commands.h"
 #include "commands/print_commands.h"
 #include "commands/running_sum_commands.h"
@@ -161,6 +162,7 @@ void wireMainWindow(base::Wiring& wiring, const MainParts& parts) {
   wireTools(wiring, parts);
   wirePriceLists(wiring, parts);
   wirePrinting(wiring, parts);
+  wirePlannerCommands(wiring, parts);
 }
 
 }  // namespace commands

@@ -19,6 +19,7 @@
 #include "frame/main_window.h"
 #include "frame/wait_window.h"
 #include "options/options_window.h"
+#include "planner/planner_window.h"
 #include "pricelists/price_editor.h"
 #include "pricelists/roll_goods.h"
 #include "printing/offer_window.h"
@@ -49,6 +50,8 @@ struct MainParts {
   calculator::CalculatorWindow& calculator;
   backup::BackupWindow& backup;
   printing::OfferWindow& offer;
+  planner::PlannerWindow& planner;
+  planner::ReminderWindow& reminder;
   base::Platform& platform;
   errors::Reporter& reporter;
 };

@@ -23,6 +23,7 @@ MainWindow::MainWindow() : Window("frmMain") {
   lblKeinTreffer.text = "kein Treffer";
   lblKeinTreffer.visible = lblSuchangebot.visible = pnlSuche.visible = pnlErsetzen.visible = false;
   for (base::Button* button : {&cmdWeiter, &cmdZurück, &cmdErsetzen, &cmdAlleErsetzen}) button->enabled = false;
+  imgTimer.visible = false;
   mnuUndo.enabled = mnuRedo.enabled = false;
   for (base::Control* look :
        std::initializer_list<base::Control*>{&cmdContainerLook, &mnuContainerLook, &mnuContainerClear}) {

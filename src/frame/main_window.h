@@ -135,10 +135,12 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuInfo)                                                            \
   CONTROL(base::MenuEntry, mnuCalculator)                                                      \
   CONTROL(base::MenuEntry, mnuBackup)                                                          \
+  CONTROL(base::MenuEntry, mnuTerminPlaner)                                                    \
   /* the status line */                                                                        \
   CONTROL(base::Label, lblZeile)                 /* format at the caret, line and column */    \
   CONTROL(base::Label, lblZusatz)                /* the piece addition, while there is one */  \
   CONTROL(base::Label, lblHinweis)               /* what the program has to tell by the way */ \
+  CONTROL(base::Picture, imgTimer)               /* there are appointments */                  \
   CONTROL(base::Timer, tmrLoad)                                                                \
   CONTROL(base::Timer, tmrSicherung)             /* looks whether the recovery copy is behind */ \
   CONTROL(base::Timer, tmrSuche)                 /* looks whether the hits are, while their bar is open */

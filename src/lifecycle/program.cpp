@@ -35,6 +35,8 @@ commands::MainParts partsOf(Program& program) {
           .calculator = program.windows.calculator,
           .backup = program.windows.backup,
           .offer = program.windows.offer,
+          .planner = program.windows.planner,
+          .reminder = program.windows.reminder,
           .platform = program.platform,
           .reporter = program.reporter};
 }

@@ -7,8 +7,10 @@
 #include <utility>
 
 #include "calc/adjustments.h"
+#include "commands/planner_commands.h"
 #include "commands/price_list_commands.h"
 #include "commands/tool_commands.h"
+#include "planner/planner.h"
 #include "settings/user_keys.h"
 
 namespace lifecycle {
@@ -78,6 +80,9 @@ void saveForBackup(Program& program, const std::vector<Kind>& kinds) {
     errors::reporting(program.reporter, kBackupTag,
                       [&] { settings::saveSettings(program.paths, program.settings, file, program.readReport); });
   }
+  if (!contains(kinds, Kind::appointments)) return;
+  errors::reporting(program.reporter, kBackupTag,
+                    [&] { planner::saveLoaded(commands::plannerParts(partsOf(program))); });
 }
 
 void readRestored(Program& program, const std::vector<Kind>& kinds) {
@@ -90,6 +95,9 @@ void readRestored(Program& program, const std::vector<Kind>& kinds) {
   havePrices ? commands::readFoilsAgain(parts) : commands::followRates(parts);
   errors::reporting(program.reporter, kBackupTag,
                     [&] { havePrices ? commands::readPricesAgain(parts) : commands::calculate(parts); });
+  if (contains(kinds, Kind::appointments)) {
+    errors::reporting(program.reporter, kBackupTag, [&] { planner::refillLoaded(commands::plannerParts(parts)); });
+  }
 }
 
 }  // namespace lifecycle

@@ -13,6 +13,7 @@
 #include "calc/calc.h"
 #include "calc/price_database.h"
 #include "commands/file_commands.h"
+#include "commands/planner_commands.h"
 #include "editor/character_format.h"
 #include "lifecycle/prepare_settings.h"
 #include "lifecycle/unsaved_work.h"
@@ -159,6 +160,7 @@ void loadBehindScreen(Program& program) {
   errors::reporting(parts.reporter, kTimerTag, [&] { program.spelling.readOwnWords(); });
   errors::reporting(parts.reporter, kTimerTag, [&] { offerRecovered(program); });
   if (!program.fileToOpen.empty()) commands::openFile(parts, program.fileToOpen);
+  errors::reporting(parts.reporter, kTimerTag, [&] { commands::checkAppointments(parts); });
 }
 
 }  // namespace lifecycle

@@ -13,6 +13,7 @@
 #include "frame/wait_window.h"
 #include "lifecycle/loading_window.h"
 #include "options/options_window.h"
+#include "planner/planner_window.h"
 #include "pricelists/price_editor.h"
 #include "pricelists/roll_goods.h"
 #include "printing/offer_window.h"
@@ -34,7 +35,9 @@ namespace lifecycle {
   WINDOW(pricelists::CsvImportWindow, csvImport)     \
   WINDOW(calculator::CalculatorWindow, calculator)   \
   WINDOW(backup::BackupWindow, backup)               \
-  WINDOW(printing::OfferWindow, offer)
+  WINDOW(printing::OfferWindow, offer)               \
+  WINDOW(planner::PlannerWindow, planner)            \
+  WINDOW(planner::ReminderWindow, reminder)
 // clang-format on
 
 #define TESSIK_DECLARE_WINDOW(Kind, name) Kind name;

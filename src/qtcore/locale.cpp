@@ -1,8 +1,10 @@
 // The user's locale and Unicode normalization.
 #include "qtcore/locale.h"
 
+#include <QDate>
 #include <QLocale>
 #include <QString>
+#include <QTime>
 #include <algorithm>
 
 #include "base/text.h"
@@ -13,17 +15,26 @@ namespace {
 // No character before this one (the first combining mark) ever composes with what stands in front of it.
 constexpr QChar kFirstThatJoins(0x0300);
 
-QString numericLocaleName() {
-  for (const char* const variable : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
+QString localeName(const char* category) {
+  for (const char* const variable : {"LC_ALL", category, "LANG"}) {
     QString name = qEnvironmentVariable(variable);
     if (!name.isEmpty()) return name;
   }
   return {};
 }
 
-QLocale numericLocale() {
-  QLocale named(numericLocaleName());
+QLocale userLocale(const char* category) {
+  QLocale named(localeName(category));
   return named.language() == QLocale::C ? QLocale(QLocale::German, QLocale::Germany) : named;
+}
+
+QLocale dateLocale() { return userLocale("LC_TIME"); }
+
+// The first character of a pattern that stands for no part of a date or time.
+std::string separatorOf(const QString& pattern, const char* german) {
+  const auto isSeparator = [](QChar c) { return c.unicode() < 0x80 && c.isPunct() && c != QLatin1Char('\''); };
+  const auto found = std::find_if(pattern.begin(), pattern.end(), isSeparator);
+  return found == pattern.end() ? german : QString(*found).toStdString();
 }
 
 std::string firstCharacter(const QString& text) {
@@ -52,9 +63,28 @@ std::size_t lengthOfPiece(std::string_view text) {
 }  // namespace
 
 base::NumberFormat userNumberFormat() {
-  const QLocale locale = numericLocale();
+  const QLocale locale = userLocale("LC_NUMERIC");
   return {.decimalSeparator = firstCharacter(locale.decimalPoint()),
           .groupSeparator = firstCharacter(locale.groupSeparator())};
+}
+
+base::DateFormat userDateFormat() {
+  const QLocale locale = dateLocale();
+  return {.dateSeparator = separatorOf(locale.dateFormat(QLocale::ShortFormat), "."),
+          .timeSeparator = separatorOf(locale.timeFormat(QLocale::ShortFormat), ":")};
+}
+
+std::string regionalDate(const base::DateTime& moment) {
+  QString pattern = dateLocale().dateFormat(QLocale::ShortFormat);
+  if (!pattern.contains(QLatin1String("yyyy"))) pattern.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+  return dateLocale().toString(QDate(moment.year, moment.month, moment.day), pattern).toStdString();
+}
+
+std::string regionalTime(const base::DateTime& moment) {
+  const QString seconds = QString::fromStdString("mm" + userDateFormat().timeSeparator + "ss");
+  const QString pattern =
+      dateLocale().timeFormat(QLocale::ShortFormat).replace(QLatin1String("mm"), seconds);
+  return dateLocale().toString(QTime(moment.hour, moment.minute, moment.second), pattern).toStdString();
 }
 
 // Piece by piece, so that a large text is not held in the toolkit's form as well.

@@ -21,5 +21,6 @@ std::string Paths::adjustmentSettings() const { return base::joinPath(programDir
 
 std::string Paths::priceDatabase() const { return base::joinPath(programDirectory, "Tessik.pdb"); }
 std::string Paths::ownWords() const { return base::joinPath(programDirectory, "Woerter.txt"); }
+std::string Paths::appointments() const { return base::joinPath(programDirectory, "Termine.ini"); }
 
 }  // namespace settings

@@ -50,6 +50,7 @@ struct Paths {
   [[nodiscard]] std::string adjustmentSettings() const;  // Tessik.ini
   [[nodiscard]] std::string priceDatabase() const;       // Tessik.pdb
   [[nodiscard]] std::string ownWords() const;            // Woerter.txt
+  [[nodiscard]] std::string appointments() const;        // Termine.ini
 };
 
 /// Lists that are read and kept although nothing uses them yet.

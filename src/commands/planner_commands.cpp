@@ -1,0 +1,28 @@
+// The planner in the program.
+#include "commands/planner_commands.h"
+
+#include "planner/planner.h"
+#include "planner/reminders.h"
+
+namespace commands {
+
+planner::PlannerParts plannerParts(const MainParts& parts) {
+  return {.window = parts.planner,
+          .reminder = parts.reminder,
+          .indicator = parts.window.imgTimer,
+          .paths = parts.paths,
+          .reminderSound = parts.settings.reminderSound,
+          .platform = parts.platform,
+          .reporter = parts.reporter};
+}
+
+void wirePlannerCommands(base::Wiring& wiring, const MainParts& parts) {
+  planner::wirePlanner(wiring, plannerParts(parts));
+  wiring.on(
+      parts.window.mnuTerminPlaner, base::Event::click,
+      reported(parts, "MAIN-mnuTerminPlaner_Click", [](const MainParts& p) { planner::openPlanner(plannerParts(p)); }));
+}
+
+void checkAppointments(const MainParts& parts) { planner::checkAtStart(plannerParts(parts)); }
+
+}  // namespace commands
