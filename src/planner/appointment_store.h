@@ -11,8 +11,8 @@ namespace planner {
 inline constexpr std::string_view kFillTag = "modGlobal-Liste_füllen";
 inline constexpr std::string_view kWriteTag = "modGlobal-Schreibe_neue_Liste";
 
-/// Fills both lists anew. A gap in the numbers of a section ends it. A file that cannot be read leaves the lists as they
-/// are.
+/// Fills both lists anew. A gap in the numbers of a section ends it. A file that cannot be read leaves the lists as
+/// they are.
 void Liste_füllen(PlannerWindow& window, const std::string& file);
 
 /// Rewrites both sections in one replacement of the file. What was not read is not written over.

@@ -36,8 +36,9 @@ struct Field {
 };
 constexpr int kNoLimit = std::numeric_limits<int>::max();
 // In the order in which their absence is told.
-constexpr std::array kFields = {Field{&PlannerWindow::Stunden, 0, 23, 23, 2}, Field{&PlannerWindow::Minuten, 0, 59, 59, 2},
-                                Field{&PlannerWindow::Tage, 1, 31, 31, 2}, Field{&PlannerWindow::Monate, 1, 12, 12, 2},
+constexpr std::array kFields = {Field{&PlannerWindow::Stunden, 0, 23, 23, 2},
+                                Field{&PlannerWindow::Minuten, 0, 59, 59, 2}, Field{&PlannerWindow::Tage, 1, 31, 31, 2},
+                                Field{&PlannerWindow::Monate, 1, 12, 12, 2},
                                 Field{&PlannerWindow::Jahre, kLeastYear, 2050, kNoLimit, 4}};
 
 std::optional<char32_t> digitKey(char32_t key) {
@@ -45,9 +46,7 @@ std::optional<char32_t> digitKey(char32_t key) {
 }
 
 // What is too long for a number is beyond every limit.
-int valueOf(const base::ComboBox& box) {
-  return box.text.empty() ? 0 : base::wholeNumber(box.text).value_or(kNoLimit);
-}
+int valueOf(const base::ComboBox& box) { return box.text.empty() ? 0 : base::wholeNumber(box.text).value_or(kNoLimit); }
 
 void set(base::ComboBox& box, std::string text) {
   box.selected = -1;
@@ -208,11 +207,11 @@ void clearShown(const PlannerParts& parts) {
   if (list.items.empty()) return;
   const bool isPresent = &list == &parts.window.Liste;
   parts.platform.beep();
-  const base::MessageAnswer answer = parts.platform.messageBox(
-      {.text = isPresent ? "Sind Sie sicher das Sie alle Termine entfernen möchten?"
-                         : "Sind Sie sicher das Sie alle alten Termine entfernen möchten?",
-       .title = isPresent ? "Termine löschen" : "Vergangene Termine löschen",
-       .buttons = base::MessageButtons::yesNo});
+  const base::MessageAnswer answer =
+      parts.platform.messageBox({.text = isPresent ? "Sind Sie sicher das Sie alle Termine entfernen möchten?"
+                                                   : "Sind Sie sicher das Sie alle alten Termine entfernen möchten?",
+                                 .title = isPresent ? "Termine löschen" : "Vergangene Termine löschen",
+                                 .buttons = base::MessageButtons::yesNo});
   if (answer != base::MessageAnswer::no) list.clear();
   write(parts);
 }
@@ -237,8 +236,8 @@ void takeOut(const PlannerParts& parts) {
 
 void saveSwitches(const PlannerParts& parts) {
   const auto digit = [](const base::CheckBox& box) { return std::string(box.checked ? "1" : "0"); };
-  parts.platform.saveUserSettings({{"AlarmAktiv", digit(parts.window.Check_Beep)},
-                                   {"TermineBeimStart", digit(parts.window.Check_Start)}});
+  parts.platform.saveUserSettings(
+      {{"AlarmAktiv", digit(parts.window.Check_Beep)}, {"TermineBeimStart", digit(parts.window.Check_Start)}});
 }
 
 // What could not be written is lost with the window, so the person decides.

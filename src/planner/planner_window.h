@@ -55,9 +55,9 @@ struct PlannerWindow : base::Window {
   /// The list on top.
   [[nodiscard]] base::ListBox& shownList() { return SSTab1.current == 0 ? Liste : List1; }
 
-  bool isRead = false;                            // the lists hold all that the file held
+  bool isRead = false;                             // the lists hold all that the file held
   std::array<std::uint64_t, 2> storedRevisions{};  // of the lists as they were read or written last
-  bool isAnnouncing = false;                      // a message about an appointment stands on the screen
+  bool isAnnouncing = false;                       // a message about an appointment stands on the screen
   std::optional<base::DateTime> lastTick;
 };
 

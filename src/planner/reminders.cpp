@@ -31,9 +31,7 @@ class Announcing {
   PlannerWindow& window_;
 };
 
-std::string fixedChime(const base::Platform& platform) {
-  return settings::defaultReminderSound(platform.systemRoot());
-}
+std::string fixedChime(const base::Platform& platform) { return settings::defaultReminderSound(platform.systemRoot()); }
 
 // The fixed chime is not on every system.
 std::string soundAt(const std::string& path, const base::Platform& platform) {

@@ -82,8 +82,7 @@ std::string regionalDate(const base::DateTime& moment) {
 
 std::string regionalTime(const base::DateTime& moment) {
   const QString seconds = QString::fromStdString("mm" + userDateFormat().timeSeparator + "ss");
-  const QString pattern =
-      dateLocale().timeFormat(QLocale::ShortFormat).replace(QLatin1String("mm"), seconds);
+  const QString pattern = dateLocale().timeFormat(QLocale::ShortFormat).replace(QLatin1String("mm"), seconds);
   return dateLocale().toString(QTime(moment.hour, moment.minute, moment.second), pattern).toStdString();
 }
 

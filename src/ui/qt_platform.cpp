@@ -20,6 +20,7 @@
 #include "qtcore/user_settings.h"
 #include "qttext/pdf.h"
 #include "ui/appearance.h"
+#include "ui/desktop_notification.h"
 #include "ui/format_dialogs.h"
 #include "ui/printing/mail.h"
 #include "ui/system_information.h"
@@ -171,7 +172,7 @@ bool QtPlatform::escapePressed() {
   return input_.escapePressed();
 }
 
-base::DateTime QtPlatform::now() const { return qtcore::now(); }
+base::DateTime QtPlatform::now() const { return clock_ ? clock_() : qtcore::now(); }
 
 // In pixels of the screen, of which a scaled desktop counts fewer.
 int QtPlatform::screenWidth() const {
@@ -264,6 +265,14 @@ void QtPlatform::setHourglass(base::Hourglass hourglass) {
 }
 
 base::NumberFormat QtPlatform::numberFormat() const { return qtcore::userNumberFormat(); }
+
+base::DateFormat QtPlatform::dateFormat() const { return qtcore::userDateFormat(); }
+
+std::string QtPlatform::regionalDate(const base::DateTime& moment) const { return qtcore::regionalDate(moment); }
+
+std::string QtPlatform::regionalTime(const base::DateTime& moment) const { return qtcore::regionalTime(moment); }
+
+void QtPlatform::notify(const base::Notification& notification) { notifyDesktop(notification); }
 
 std::string QtPlatform::composed(std::string_view text) const { return qtcore::composed(text); }
 

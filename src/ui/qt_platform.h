@@ -20,6 +20,7 @@
 #include "ui/hunspell_dictionary.h"
 #include "ui/printing/printing.h"
 #include "ui/shown_windows.h"
+#include "ui/sound_player.h"
 
 namespace ui {
 
@@ -30,6 +31,8 @@ class QtPlatform : public base::Platform {
 
   /// Nobody answers any more: questions are answered as if their box was closed, and nothing is shown.
   void setUnattended() { isUnattended_ = true; }
+  /// Another clock than the computer's.
+  void setClock(std::function<base::DateTime()> clock) { clock_ = std::move(clock); }
   /// Another sound for refused actions than the desktop's.
   void setBell(std::function<void()> bell) { bell_ = std::move(bell); }
 
@@ -50,6 +53,13 @@ class QtPlatform : public base::Platform {
   std::optional<bool> asideSucceeded() override { return aside_.succeeded(); }
   void awaitAside() override { aside_.await(); }
   void beep() override;
+  [[nodiscard]] int soundDevices() const override { return ui::soundDevices(); }
+  bool openSound(const std::string& path) override { return sound_.open(path); }
+  void playSound() override { sound_.play(); }
+  void stopSound() override { sound_.stop(); }
+  void closeSound() override { sound_.close(); }
+  [[nodiscard]] std::string ownChime() const override { return ui::ownChime(); }
+  void notify(const base::Notification& notification) override;
   [[nodiscard]] base::DateTime now() const override;
   [[nodiscard]] int screenWidth() const override;
   [[nodiscard]] base::SystemInformation systemInformation() const override;
@@ -68,6 +78,9 @@ class QtPlatform : public base::Platform {
   [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
   void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   [[nodiscard]] base::NumberFormat numberFormat() const override;
+  [[nodiscard]] base::DateFormat dateFormat() const override;
+  [[nodiscard]] std::string regionalDate(const base::DateTime& moment) const override;
+  [[nodiscard]] std::string regionalTime(const base::DateTime& moment) const override;
   [[nodiscard]] std::string composed(std::string_view text) const override;
   [[nodiscard]] base::Dictionary* dictionary() override;
   [[nodiscard]] std::vector<std::string> fontFamilies() const override;
@@ -78,6 +91,8 @@ class QtPlatform : public base::Platform {
   InputFilter& input_;
   ShownWindows& windows_;
   std::function<void()> bell_;
+  std::function<base::DateTime()> clock_;
+  SoundPlayer sound_;
   Aside aside_;
   Printing printing_;
   std::unique_ptr<HunspellDictionary> dictionary_;

@@ -67,6 +67,9 @@ class ScriptedPlatform : public base::Platform {
   bool asideFails = false;
   base::Hourglass hourglass = base::Hourglass::off;
   base::NumberFormat format;
+  base::DateFormat dates;
+  int devices = 1;
+  bool playsSounds = true;
   std::optional<ScriptedDictionary> german;  // none: not installed
   std::vector<std::string> families = {"Arial", "DejaVu Sans"};
   /// What asking for the typefaces and storing user settings fail with.
@@ -89,6 +92,13 @@ class ScriptedPlatform : public base::Platform {
   std::string askSaveFile(const base::FileQuestion& question) override { return answerOf(question.filter); }
   bool escapePressed() override { return refresh(), escape; }
   void beep() override { ++beeps; }
+  [[nodiscard]] int soundDevices() const override { return devices; }
+  bool openSound(const std::string& path) override { return log.push_back("sound " + path), playsSounds; }
+  void playSound() override { log.push_back("play"); }
+  void stopSound() override { throw base::Failure(base::ErrorNumber::invalidCall); }
+  void closeSound() override { throw base::Failure(base::ErrorNumber::invalidCall); }
+  [[nodiscard]] std::string ownChime() const override { return "own chime"; }
+  void notify(const base::Notification& told) override { log.push_back("notify " + told.title + ": " + told.text); }
   [[nodiscard]] base::DateTime now() const override { return moment; }
   [[nodiscard]] int screenWidth() const override { return width; }
   [[nodiscard]] base::SystemInformation systemInformation() const override { return system; }
@@ -112,6 +122,9 @@ class ScriptedPlatform : public base::Platform {
   void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   void setHourglass(base::Hourglass value) override { hourglass = value; }
   [[nodiscard]] base::NumberFormat numberFormat() const override { return format; }
+  [[nodiscard]] base::DateFormat dateFormat() const override { return dates; }
+  [[nodiscard]] std::string regionalDate(const base::DateTime& day) const override { return base::dateText(day); }
+  [[nodiscard]] std::string regionalTime(const base::DateTime& time) const override { return base::timeText(time); }
   [[nodiscard]] std::string composed(std::string_view text) const override { return std::string(text); }
   [[nodiscard]] base::Dictionary* dictionary() override { return german ? &*german : nullptr; }
   [[nodiscard]] std::vector<std::string> fontFamilies() const override {

@@ -4,6 +4,7 @@
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
@@ -210,6 +211,10 @@ bool ListBinding::enter(const QKeyEvent& key) {
 
 bool ListBinding::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress && enter(static_cast<const QKeyEvent&>(*event))) return true;
+  // Of rows the view tells itself.
+  const bool isBesideRows = event->type() == QEvent::MouseButtonDblClick && watched == widget_.viewport() &&
+                            !widget_.indexAt(static_cast<const QMouseEvent&>(*event).pos()).isValid();
+  if (isBesideRows && handles(Event::doubleClick)) userChange([this] { fire(Event::doubleClick); });
   return BindingOf::eventFilter(watched, event);
 }
 

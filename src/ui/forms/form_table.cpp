@@ -19,7 +19,9 @@
 #include "ui_offer.h"
 #include "ui_options.h"
 #include "ui_picker.h"
+#include "ui_planner.h"
 #include "ui_price_editor.h"
+#include "ui_reminder.h"
 #include "ui_roll_goods.h"
 #include "ui_sort.h"
 #include "ui_spelling.h"
@@ -81,6 +83,22 @@ QWidget* csvImport(QWidget* parent) {
   return form;
 }
 
+// A window of its own beside the main window, as long as one works with it.
+QWidget* planner(QWidget* /*parent*/) {
+  auto* const window = new FormDialog(nullptr, Qt::Window);
+  Ui::PlannerForm().setupUi(window);
+  window->resize(inLettersOnScreen(*window, 92, 32));
+  return window;
+}
+
+// Belongs to no window, for whichever is in front or minimised, it is to be seen.
+QWidget* reminder(QWidget* /*parent*/) {
+  auto* const window = new FormDialog(nullptr);
+  Ui::ReminderForm().setupUi(window);
+  window->resize(inLetters(*window, 64, 10));
+  return window;
+}
+
 constexpr std::array kForms = {
     Form{"frmMain", mainWindow},
     Form{"frmLoad", loadingScreen, Appears::whenItTakesLonger},
@@ -94,6 +112,8 @@ constexpr std::array kForms = {
     Form{"frmBackup", dialog<Ui::BackupForm, 120, 30>},
     Form{"frmAngebot", dialog<Ui::OfferForm, 96, 36>},
     Form{"frmData", dialog<Ui::PriceEditorForm, 84, 36>},
+    Form{"frmTermine", planner},
+    Form{"frmMsgBox", reminder},
     Form{"frmCsvImport", csvImport},
     Form{"frmVoll", dialog<Ui::RollGoodsForm, 128, 34>},
 };

@@ -88,7 +88,9 @@ MainForm::MainForm() : drawn_(drawnOn(*this)), view_(viewOf(*this, *drawn_)) {
   drawn_->fixStatus->addWidget(drawn_->lblZeile, kTakesTheRest);
   drawn_->fixStatus->addPermanentWidget(drawn_->lblHinweis);
   drawn_->fixStatus->addPermanentWidget(drawn_->lblZusatz);
+  drawn_->fixStatus->addPermanentWidget(drawn_->imgTimer);
   drawn_->fixStatus->addPermanentWidget(drawn_->fixAnsichtsgröße);
+  drawTimer();
   drawn_->fixTeiler->setStretchFactor(0, 1);
   drawn_->fixTeiler->setStretchFactor(1, 0);
   moveFormatIntoToolBar(*drawn_);
@@ -142,7 +144,16 @@ void MainForm::paintEvent(QPaintEvent* event) {
 
 void MainForm::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) followPalette();
+  if (event->type() != QEvent::PaletteChange) return;
+  followPalette();
+  drawTimer();
+}
+
+// A label's picture follows neither palette nor theme by itself.
+void MainForm::drawTimer() {
+  const int side = fontMetrics().height();
+  drawn_->imgTimer->setPixmap(
+      QIcon::fromTheme(QStringLiteral("appointment-reminder")).pixmap(QSize(side, side), devicePixelRatio()));
 }
 
 }  // namespace ui

@@ -37,6 +37,7 @@ class MainForm : public QMainWindow {
 
  private:
   void fitToScreen();
+  void drawTimer();
 
   std::unique_ptr<Ui::MainWindowForm> drawn_;
   ViewCommands* view_;

@@ -1,0 +1,275 @@
+// Appointments: their lines, their file, the planner's commands and what it announces.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "base/profile_file.h"
+#include "commands/planner_commands.h"
+#include "planner/appointment.h"
+#include "planner/appointment_store.h"
+#include "support/session.h"
+
+namespace planner {
+namespace {
+
+using base::Event;
+using base::MessageAnswer;
+using support::TemporaryDirectory;
+
+constexpr std::string_view kGap = "       ";
+
+std::string line(const std::string& key, const std::string& text) { return key + std::string(kGap) + text; }
+
+struct Planner : support::Session {
+  explicit Planner(const TemporaryDirectory& place, const std::string& file = {}) : Session(place), directory(place) {
+    if (!file.empty()) place.write("Termine.ini", file);
+    platform.userSettings["AlarmAktiv"] = "0";
+    clock(24, 14, 30, 20);
+  }
+  void clock(int day, int hour, int minute, int second = 0) {
+    platform.moment = {.year = 2004, .month = 12, .day = day, .hour = hour, .minute = minute, .second = second};
+  }
+  void open() { click(program.windows.main.mnuTerminPlaner); }
+  void close() {
+    program.wiring.fire(planner, Event::closing);
+    planner.isOpen = planner.keepsOpen;
+  }
+  void tick() const { program.wiring.fire(planner.Timer1, Event::tick); }
+  void enter(std::array<std::string, 5> dayToMinute, const std::string& text) {
+    base::ComboBox* const boxes[] = {&planner.Tage, &planner.Monate, &planner.Jahre, &planner.Stunden,
+                                     &planner.Minuten};
+    for (std::size_t i = 0; i < dayToMinute.size(); ++i) boxes[i]->text = dayToMinute.at(i);
+    planner.TerminText.text = text;
+    click(planner.Erzeugen);
+  }
+  void expectReminder(const std::string& title, const std::function<void()>& whileOpen = {}) {
+    platform.expectModal("frmMsgBox", [this, title, whileOpen](base::Window& /*shown*/) {
+      EXPECT_EQ(parts.reminder.lblTermin.text + " " + parts.reminder.lblText.text, title);
+      if (whileOpen) whileOpen();
+      click(parts.reminder.command1);
+    });
+  }
+  void expectMissed(const std::string& title, const std::string& text) {
+    platform.expectMessage(
+        {.text = "Sie haben einen Termin versäumt:\r" + text, .title = title, .icon = base::MessageIcon::information});
+  }
+  [[nodiscard]] std::string file() const { return directory.read("Termine.ini"); }
+
+  const TemporaryDirectory& directory;
+  PlannerWindow& planner = program.windows.planner;
+};
+
+TEST(Planner, aLineNamesItsMomentByPlace) {
+  const std::vector<std::pair<std::string, bool>> rows = {
+      {"24.12.2004   14:30", true},  {"29.02.2004   00:00 x", true}, {"29.02.2005   00:00", false},
+      {"31.04.2004   23:59", false}, {"24/12/2004   14.30", true},   {"24.12.2004   24:00", false},
+      {"24.12.2004   14:60", false}, {"24.12.2004  14:30 ", false},  {"ä4.12.2004   14:3", false},
+      {"24.12.04     14:30", false}, {"00.12.2004   14:30", false},  {"Zahnarzt", false},
+  };
+  for (const auto& [text, isMoment] : rows) {
+    if (!isMoment) {
+      EXPECT_THROW(static_cast<void>(momentOf(text)), base::Failure) << text;
+    } else {
+      EXPECT_EQ(keyOf(momentOf(text), {".", ":"}), text.starts_with("24/") ? "24.12.2004   14:30" : text.substr(0, 18));
+    }
+  }
+  EXPECT_EQ(validDate("7", "1", "85")->year, 1985);
+  EXPECT_FALSE(validDate("1", "1", "20045") || validDate("1", "99999999999", "2004"));
+  EXPECT_EQ(toldText("24.12.2004   14:30   ü  x "), "ü  x");
+  EXPECT_EQ(minutesBetween({.year = 2004, .month = 2, .day = 28, .hour = 23, .minute = 59, .second = 59},
+                           {.year = 2004, .month = 3, .day = 1}),
+            1 + 24 * 60);
+}
+
+TEST(Planner, theFileIsReadUpToAGapAndRewrittenInOrder) {
+  const TemporaryDirectory directory;
+  const std::string longText(300, 'x');
+  Planner planner(directory, "[Andere]\r\na=b\r\n[Termine]\r\n0=" + line("20.12.2034   10:00", "b") +
+                                 "\r\n1=" + line("05.01.2035   10:00", longText) + "\r\n3=" +
+                                 line("01.01.2035   10:00", "verloren") + "\r\n[TermineAlt]\r\n0=alt\r\n1=Alt\r\n");
+  planner.open();
+  EXPECT_EQ(planner.file(), "[Andere]\r\na=b\r\n[Termine]\r\n0=" + line("05.01.2035   10:00", longText.substr(0, 229)) +
+                                "\r\n1=" + line("20.12.2034   10:00", "b") + "\r\n[TermineAlt]\r\n0=Alt\r\n1=alt\r\n");
+  EXPECT_TRUE(planner.program.windows.main.imgTimer.visible);
+  planner.planner.Liste.clear(), planner.planner.List1.clear();
+  planner.close();
+  EXPECT_EQ(planner.file(), "[Andere]\r\na=b\r\n");
+  EXPECT_FALSE(planner.planner.Timer1.running || planner.program.windows.main.imgTimer.visible);
+}
+
+TEST(Planner, appointmentsAreEnteredOnceAndRefusedWithAWord) {
+  const TemporaryDirectory directory;
+  Planner planner(directory);
+  planner.open();
+  EXPECT_FALSE(std::filesystem::exists(directory.path("Termine.ini")));
+  struct Row {
+    std::array<std::string, 5> fields;
+    std::string text;
+    base::Message message;
+    int beeps;
+  };
+  const std::vector<Row> rows = {
+      {{"1", "1", "2005", "", "0"}, "x", {.text = "Eingabe unvollständig"}, 0},
+      {{"29", "02", "2005", "10", "00"}, "x", {.text = "     Falsches Datum!"}, 1},
+      {{"29", "02", "2004", "10", "00"}, " ", {.text = "Keinen Text eingegeben!"}, 1},
+      {{"29", "02", "2004", "10", "00"}, "Zahnarzt \"gut\"\r\nx", {}, 0},
+      {{"29", "2", "2004", "10", "0"},
+       "Zahnarzt \"gut\" x",
+       {.text = "Eintrag bereits vorhanden", .title = "Achtung!"},
+       0},
+      {{"29", "2", "2004", "10", "0"}, "ZAHNARZT \"gut\" x", {}, 0},
+      {{"15", "12", "2004", "8", "5"}, "Ärger", {}, 0},
+  };
+  for (const Row& row : rows) {
+    if (!row.message.text.empty()) planner.platform.expectMessage(row.message);
+    planner.platform.beeps = 0;
+    planner.enter(row.fields, row.text);
+    EXPECT_EQ(planner.platform.beeps, row.beeps) << row.text;
+  }
+  const base::ItemList& lines = planner.planner.Liste.items;
+  ASSERT_EQ(lines.size(), 3);
+  EXPECT_EQ(lines[0], line("15.12.2004   08:05", "Ärger"));
+  EXPECT_EQ(lines[1], line("29.02.2004   10:00", "ZAHNARZT \"gut\" x")) << "in front of its equal";
+  EXPECT_EQ(planner.planner.Liste.current, 0);
+  planner.program.wiring.fire(planner.planner.Liste, Event::doubleClick);
+  EXPECT_EQ(planner.planner.TerminText.text + planner.planner.Jahre.text + planner.planner.Minuten.text, "Ärger200405");
+  planner.platform.expectMessage(
+      {.text = "Sie haben den Termin \"Ärger\" nicht hinzugefügt, möchten Sie ihn verwerfen?",
+       .title = "Termin speichern",
+       .icon = base::MessageIcon::question,
+       .buttons = base::MessageButtons::yesNo},
+      MessageAnswer::no);
+  planner.close();
+  EXPECT_TRUE(planner.planner.isOpen && planner.file().empty());
+  planner.click(planner.planner.Erzeugen);
+  planner.close();
+  EXPECT_FALSE(planner.planner.isOpen);
+  EXPECT_EQ(planner.planner.Timer1, (base::Timer{.running = true, .intervalMilliseconds = 5000}));
+  EXPECT_EQ(base::ProfileFile::load(directory.path("Termine.ini")).value("Termine", "2", base::kListBuffer),
+            line("29.02.2004   10:00", "Zahnarzt \"gut\" x"));
+}
+
+TEST(Planner, appointmentsAreMovedAndRemovedInTheListOnTop) {
+  const TemporaryDirectory directory;
+  Planner planner(directory, "[Termine]\n0=" + line("01.01.2030   10:00", "a") +
+                                 "\n1=" + line("02.01.2030   10:00", "b") + "\n2=" + line("03.01.2030   10:00", "c"));
+  planner.open();
+  PlannerWindow& window = planner.planner;
+  planner.click(window.cmdMove);
+  EXPECT_TRUE(window.lblHinweis.visible) << "nothing is selected";
+  window.Liste.current = 1;
+  planner.click(window.cmdMove);
+  EXPECT_NE(planner.file().find("[TermineAlt]\n0=02"), std::string::npos);
+  window.Liste.current = 1;
+  planner.click(window.mnuLöschen);
+  EXPECT_EQ(window.Liste.current, 0);
+  EXPECT_EQ(planner.file().find("03.01"), std::string::npos);
+  window.SSTab1.current = 1;
+  planner.click(window.SSTab1);
+  EXPECT_EQ(window.cmdMove.text + window.mnuMove.text, "&Neu anlegen&Neu anlegen");
+  window.List1.current = 0;
+  planner.click(window.cmdMove);
+  EXPECT_EQ(window.TerminText.text + window.Tage.text + window.Minuten.text, "b2430");
+  planner.platform.expectMessage({.text = "Sind Sie sicher das Sie alle alten Termine entfernen möchten?",
+                                  .title = "Vergangene Termine löschen",
+                                  .buttons = base::MessageButtons::yesNo},
+                                 MessageAnswer::yes);
+  planner.click(window.Command4);
+  planner.click(window.Command4);
+  EXPECT_EQ(planner.file(), "[Termine]\n0=" + line("01.01.2030   10:00", "a") + "\n");
+}
+
+TEST(Planner, missedAppointmentsAreAnnouncedInOrderWithTheFixedChime) {
+  const TemporaryDirectory directory;
+  Planner planner(directory, "[Termine]\n0=" + line("01.01.2004   10:00", "a") +
+                                 "\n1=" + line("24.12.2004   14:30", "b") + "\n2=" + line("24.12.2004   14:31", "c") +
+                                 "\n3=" + line("29.02.2004   23:59", "d"));
+  planner.platform.userSettings["AlarmAktiv"] = "1";
+  planner.expectMissed("Termin am 01.01.2004 um 10:00 Uhr", "a");
+  planner.expectMissed("Termin am 24.12.2004 um 14:30 Uhr", "b");
+  planner.expectMissed("Termin am 29.02.2004 um 23:59 Uhr", "d");
+  planner.open();
+  EXPECT_EQ(planner.planner.List1.items.size(), 3);
+  EXPECT_EQ(planner.planner.Liste.items[0], line("24.12.2004   14:31", "c"));
+  EXPECT_NE(planner.file().find("[TermineAlt]\n0=01"), std::string::npos);
+  const auto& log = planner.platform.log;
+  EXPECT_EQ(
+      std::vector(log.begin(), log.begin() + 3),
+      (std::vector<std::string>{"sound own chime", "play", "notify Termin am 01.01.2004 um 10:00 Uhr: Versäumt: a"}));
+  EXPECT_EQ(planner.platform.beeps, 0);
+
+  directory.write("Termine.ini", "[Termine]\n0=" + line("01.01.2004   10:00", "a") + "\n1=kaputt");
+  planner.planner.isOpen = false;
+  planner.platform.devices = 0;
+  planner.expectMissed("Termin am 01.01.2004 um 10:00 Uhr", "a");
+  planner.expectFailure(base::errorText(base::ErrorNumber::typeMismatch));
+  planner.open();
+  EXPECT_NE(directory.read("Error.log").find("modGlobal-Alte_Einträge_löschen"), std::string::npos);
+  EXPECT_EQ(planner.planner.Liste.items.size() + planner.planner.List1.items.size(), 2);
+  EXPECT_EQ(planner.platform.beeps, 1);
+}
+
+TEST(Planner, dueAppointmentsAreAnnouncedOnceAndNoneBehindAReminder) {
+  const TemporaryDirectory directory;
+  Planner planner(directory, "[Termine]\n0=" + line("25.12.2004   00:00", "a") +
+                                 "\n1=" + line("25.12.2004   00:00", "b") + "\n2=" + line("25.12.2004   00:04", "c") +
+                                 "\n3=" + line("25.12.2004   00:11", "d"));
+  planner.platform.userSettings["TermineBeimStart"] = "1";
+  planner.program.settings.reminderSound = "eigene.wav";
+  planner.platform.playsSounds = false;
+  planner.clock(24, 23, 59, 55);
+  commands::checkAppointments(planner.parts);
+  EXPECT_FALSE(planner.planner.isOpen);
+  ASSERT_TRUE(planner.planner.Timer1.running);
+  planner.planner.Check_Beep.checked = true;
+  planner.tick();
+  planner.clock(25, 0, 0, 2);
+  planner.expectReminder("Termin am 25.12.2004 um 00:00 Uhr a", [&] {
+    EXPECT_EQ(planner.parts.reminder.caption, "Erinnerung am 25.12.2004 um 00:00:02");
+    planner.clock(25, 0, 10, 2);
+    planner.tick();
+  });
+  planner.expectReminder("Termin am 25.12.2004 um 00:00 Uhr b");
+  planner.tick();
+  EXPECT_EQ(planner.platform.beeps, 2) << "the file cannot be played";
+  planner.expectMissed("Termin am 25.12.2004 um 00:04 Uhr", "c");
+  planner.clock(25, 0, 10, 7);
+  planner.tick();
+  planner.clock(25, 0, 11, 0);
+  planner.expectReminder("Termin am 25.12.2004 um 00:11 Uhr d");
+  planner.tick();
+  planner.tick();
+  EXPECT_TRUE(planner.planner.Timer1.running);
+  EXPECT_FALSE(planner.program.windows.main.imgTimer.visible);
+  EXPECT_EQ(planner.file().find("[Termine]"), std::string::npos);
+  EXPECT_NE(planner.file().find("3=" + line("25.12.2004   00:11", "d")), std::string::npos);
+}
+
+TEST(Planner, whatCannotBeWrittenOrReadIsNotLost) {
+  const TemporaryDirectory directory;
+  Planner planner(directory);
+  planner.open();
+  planner.enter({"1", "1", "2030", "10", "0"}, "a");
+  std::filesystem::create_directory(directory.path("Termine.ini"));
+  for (const MessageAnswer answer : {MessageAnswer::no, MessageAnswer::yes}) {
+    planner.platform.expectAnyMessage(MessageAnswer::ok);
+    planner.platform.expectMessage({.text = "Die Termine sind nicht gespeichert. Möchten Sie trotzdem schließen?",
+                                    .title = "Termine speichern",
+                                    .icon = base::MessageIcon::exclamation,
+                                    .buttons = base::MessageButtons::yesNo},
+                                   answer);
+    planner.close();
+    EXPECT_EQ(planner.planner.isOpen, answer == MessageAnswer::no);
+  }
+  support::Session later(directory);
+  later.platform.expectAnyMessage(MessageAnswer::ok);
+  later.click(later.window.mnuTerminPlaner);
+  EXPECT_TRUE(later.program.windows.planner.lblHinweis.visible);
+  std::filesystem::remove(directory.path("Termine.ini"));
+  directory.write("Termine.ini", "[Termine]\n0=x");
+  later.program.wiring.fire(later.program.windows.planner, Event::closing);
+  EXPECT_EQ(directory.read("Termine.ini"), "[Termine]\n0=x");
+}
+
+}  // namespace
+}  // namespace planner
