@@ -5,6 +5,7 @@
 
 #include "base/profile_file.h"
 #include "commands/planner_commands.h"
+#include "lifecycle/restored_data.h"
 #include "planner/appointment.h"
 #include "planner/appointment_store.h"
 #include "support/session.h"
@@ -243,6 +244,20 @@ TEST(Planner, dueAppointmentsAreAnnouncedOnceAndNoneBehindAReminder) {
   EXPECT_FALSE(planner.program.windows.main.imgTimer.visible);
   EXPECT_EQ(planner.file().find("[Termine]"), std::string::npos);
   EXPECT_NE(planner.file().find("3=" + line("25.12.2004   00:11", "d")), std::string::npos);
+}
+
+TEST(Planner, aBackupTakesWhatIsLoadedAndARestoreFillsItAnew) {
+  const TemporaryDirectory directory;
+  Planner planner(directory);
+  planner.open();
+  planner.enter({"1", "1", "2030", "10", "0"}, "a");
+  lifecycle::saveForBackup(planner.program, {backup::Kind::appointments});
+  EXPECT_EQ(planner.file(), "[Termine]\r\n0=" + line("01.01.2030   10:00", "a") + "\r\n");
+  planner.close();
+  directory.write("Termine.ini", "[TermineAlt]\n0=b");
+  lifecycle::readRestored(planner.program, {backup::Kind::appointments});
+  EXPECT_EQ(planner.planner.List1.items.size() - planner.planner.Liste.items.size(), 1);
+  EXPECT_FALSE(planner.program.windows.main.imgTimer.visible);
 }
 
 TEST(Planner, whatCannotBeWrittenOrReadIsNotLost) {

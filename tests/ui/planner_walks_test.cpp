@@ -49,7 +49,9 @@ TEST(Walk, AnAppointmentIsEnteredWatchedAndAnnounced) {
   walk.click("Erzeugen");
   EXPECT_EQ(Walk::focus() + walk.text("TerminText"), "TerminText");
   EXPECT_EQ(shop.file("Termine.ini"), "");
-  QTest::mouseDClick(walk.widget<QListView>("Liste").viewport(), Qt::LeftButton, {}, {20, 5});
+  QWidget& rows = *walk.widget<QListView>("Liste").viewport();
+  QTest::mouseClick(&rows, Qt::LeftButton, {}, {20, 5});
+  QTest::mouseDClick(&rows, Qt::LeftButton, {}, {20, 5});
   walk.settle();
   EXPECT_EQ(walk.text("TerminText"), "Schild „Café“ liefern");
   EXPECT_TRUE(walk.widget<QWidget>("lblHinweis").isVisible());
