@@ -48,9 +48,11 @@ std::optional<char32_t> digitKey(char32_t key) {
 // What is too long for a number is beyond every limit.
 int valueOf(const base::ComboBox& box) { return box.text.empty() ? 0 : base::wholeNumber(box.text).value_or(kNoLimit); }
 
+// The row of that number is where the list opens.
 void set(base::ComboBox& box, std::string text) {
-  box.selected = -1;
   box.text = std::move(text);
+  const auto row = std::find(box.items.begin(), box.items.end(), std::to_string(valueOf(box)));
+  box.selected = row == box.items.end() ? -1 : static_cast<int>(row - box.items.begin());
 }
 
 std::string filledUp(std::string digits, std::size_t width) {
@@ -131,6 +133,7 @@ void enter(const PlannerParts& parts, std::string line) {
     return;
   }
   window.Liste.current = row;
+  window.takenOut.clear();
   window.TerminText.text.clear();
   window.TerminText.wantsFocus = true;
   hint(window, window.SSTab1.current == 0 ? std::string() : "Angelegt: " + lines[row]);
@@ -175,6 +178,7 @@ void makeOld(const PlannerParts& parts, int row) {
 
 void makeNew(const PlannerParts& parts, const std::string& line) {
   if (!mayDiscardText(parts)) return;
+  parts.window.takenOut.clear();
   parts.window.TerminText.text = typedText(line);
   parts.window.TerminText.wantsFocus = true;
   showMoment(parts.window, parts.platform.now());
@@ -216,11 +220,21 @@ void clearShown(const PlannerParts& parts) {
   write(parts);
 }
 
+// What was taken out and is still in the fields goes back where nobody was asked about it.
+void putBack(PlannerWindow& window) {
+  const std::string line = std::exchange(window.takenOut, {});
+  if (!line.empty() && !window.TerminText.text.empty()) addSorted(window.Liste.items, line);
+}
+
 void takeOut(const PlannerParts& parts) {
   PlannerWindow& window = parts.window;
   const int row = window.Liste.current;
   if (!window.Liste.items.holds(row)) return parts.platform.beep();
   const std::string line = window.Liste.items[row];
+  window.Liste.items.removeAt(row);
+  window.Liste.current = -1;
+  putBack(window);
+  window.takenOut = line;
   const auto part = [&](std::size_t first, std::size_t count) { return std::string(characters(line, first, count)); };
   window.TerminText.text = typedText(line);
   set(window.Tage, part(1, 2));
@@ -229,8 +243,6 @@ void takeOut(const PlannerParts& parts) {
   set(window.Stunden, part(14, 2));
   set(window.Minuten, part(17, 2));
   window.TerminText.wantsFocus = true;
-  window.Liste.items.removeAt(row);
-  window.Liste.current = -1;
   hint(window, kTakenOut);
 }
 
@@ -255,9 +267,15 @@ void closeWindow(const PlannerParts& parts) {
     window.keepsOpen = true;
     return;
   }
+  if (!window.mayAsk) putBack(window);
+  window.takenOut.clear();
   window.TerminText.text.clear();
   hint(window, {});
-  window.Liste.items.empty() ? void(window.Timer1 = {}) : arm(window, parts.platform);
+  if (window.Liste.items.empty()) {
+    window.Timer1 = {};
+  } else {
+    arm(window, parts.platform);
+  }
   const auto step = [&](auto procedure) { errors::reporting(parts.reporter, "Termine-Ende", procedure); };
   step([&] { saveSwitches(parts); });
   if (window.isRead || isUnsaved(window)) step([&] { write(parts); });
@@ -303,8 +321,8 @@ void openPlanner(const PlannerParts& parts) {
   if (parts.window.isOpen) return parts.platform.show(parts.window);
   constexpr std::string_view kTag = "Termine-FormLoad";
   errors::reporting(parts.reporter, kTag, [&] {
-    showMoment(parts.window, parts.platform.now());
     offerNumbers(parts.window);
+    showMoment(parts.window, parts.platform.now());
     readSwitches(parts);
   });
   errors::reporting(parts.reporter, kTag, [&] { readAndCheck(parts); });

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "base/controls.h"
 #include "base/date_time.h"
@@ -57,6 +58,7 @@ struct PlannerWindow : base::Window {
 
   bool isRead = false;                             // the lists hold all that the file held
   std::array<std::uint64_t, 2> storedRevisions{};  // of the lists as they were read or written last
+  std::string takenOut;                            // the line that is being edited, until it is entered again
   bool isAnnouncing = false;                       // a message about an appointment stands on the screen
   std::optional<base::DateTime> lastTick;
 };

@@ -33,7 +33,7 @@ QLocale dateLocale() { return userLocale("LC_TIME"); }
 // The first character of a pattern that stands for no part of a date or time.
 std::string separatorOf(const QString& pattern, const char* german) {
   const auto isSeparator = [](QChar c) { return c.unicode() < 0x80 && c.isPunct() && c != QLatin1Char('\''); };
-  const auto found = std::find_if(pattern.begin(), pattern.end(), isSeparator);
+  const auto* const found = std::find_if(pattern.begin(), pattern.end(), isSeparator);
   return found == pattern.end() ? german : QString(*found).toStdString();
 }
 

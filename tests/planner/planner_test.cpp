@@ -145,9 +145,20 @@ TEST(Planner, appointmentsAreEnteredOnceAndRefusedWithAWord) {
   planner.click(planner.planner.Erzeugen);
   planner.close();
   EXPECT_FALSE(planner.planner.isOpen);
-  EXPECT_EQ(planner.planner.Timer1, (base::Timer{.running = true, .intervalMilliseconds = 5000}));
   EXPECT_EQ(base::ProfileFile::load(directory.path("Termine.ini")).value("Termine", "2", base::kListBuffer),
             line("29.02.2004   10:00", "Zahnarzt \"gut\" x"));
+  const std::string written = planner.file();
+  planner.platform.moment.year = 2003;
+  planner.open();
+  for (int row : {0, 1}) {
+    planner.planner.Liste.current = row;
+    planner.program.wiring.fire(planner.planner.Liste, Event::doubleClick);
+  }
+  EXPECT_EQ(lines.size(), 2) << "the first is back";
+  planner.planner.mayAsk = false;
+  planner.close();
+  EXPECT_EQ(planner.file().size(), written.size()) << "nobody was asked; equals change places whenever they are read";
+  EXPECT_EQ(planner.planner.Timer1, (base::Timer{.running = true, .intervalMilliseconds = 5000}));
 }
 
 TEST(Planner, appointmentsAreMovedAndRemovedInTheListOnTop) {
