@@ -15,7 +15,7 @@ namespace {
 
 QString playerProgram() {
   for (const char* const name : {"paplay", "pw-play", "aplay"}) {
-    const QString found = QStandardPaths::findExecutable(QString::fromLatin1(name));
+    QString found = QStandardPaths::findExecutable(QString::fromLatin1(name));
     if (!found.isEmpty()) return found;
   }
   return {};
