@@ -6,6 +6,7 @@ namespace {
 
 constexpr PriceTableKind kPriceList{.list = calc::kCapHeights,
                                     .subject = "Nettopreis eines Zeichens für jede Versalienhöhe",
+                                    .saveQuestion = "Möchten Sie die Änderungen an der Preisliste speichern?",
                                     .nameMissing = "Bitte eine Versalienhöhe eingeben",
                                     .csvHeading = "Versalienhöhe",
                                     .loadTag = "DATA-formActivate",

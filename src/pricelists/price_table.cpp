@@ -295,7 +295,10 @@ void close(const PriceTable& table) {
   PriceTableWindow& window = table.window;
   window.keepsOpen = true;
   errors::reporting(table.reporter, table.kind.saveTag, [&] {
-    if (window.mayAsk && hasUnsaved(window)) editor::settleChanges(table.platform, [&] { save(table); });
+    if (window.mayAsk && hasUnsaved(window)) {
+      editor::settleChanges(
+          table.platform, [&] { save(table); }, table.kind.saveQuestion);
+    }
     window.keepsOpen = false;
   });
   window.Timer1.running = window.keepsOpen;

@@ -63,9 +63,10 @@ struct PriceTableWindow : base::Window {
 /// What differs between the windows.
 struct PriceTableKind {
   calc::PriceList list;
-  std::string_view subject;      // what the list is
-  std::string_view nameMissing;  // asks for the name
-  std::string_view csvHeading;   // over the names in a spreadsheet
+  std::string_view subject;       // what the list is
+  std::string_view saveQuestion;  // before changes are lost; other windows ask as well when the program ends
+  std::string_view nameMissing;   // asks for the name
+  std::string_view csvHeading;    // over the names in a spreadsheet
   std::string_view loadTag;
   std::string_view addTag;
   std::string_view insertTag;

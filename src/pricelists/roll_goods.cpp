@@ -18,6 +18,7 @@ using base::Event;
 constexpr PriceTableKind kFoils{
     .list = {.names = "Folien", .prices = "FPreise", .row = "der Folie"},
     .subject = "Nettopreis eines Quadratmeters jeder Folie",
+    .saveQuestion = "Möchten Sie die Änderungen an der Folienliste speichern?",
     .nameMissing = "Bitte einen Foliennamen eingeben",
     .csvHeading = "Foliename",
     .loadTag = "VOLL-FormLoad",

@@ -151,7 +151,7 @@ TEST_F(PriceEditor, AListThatWasNotReadWholeIsNeverWritten) {
 }
 
 TEST_F(PriceEditor, ClosingAsksOnceAndAFailedSaveLosesNothing) {
-  const base::Message question{.text = "Möchten Sie die Änderungen speichern?",
+  const base::Message question{.text = "Möchten Sie die Änderungen an der Preisliste speichern?",
                                .icon = base::MessageIcon::question,
                                .buttons = base::MessageButtons::yesNoCancel};
   const auto close = [&](MessageAnswer answer) {
