@@ -90,8 +90,8 @@ std::string amountText(const AdjustmentSide& side) {
   const std::string& typed = side.amount.text;
   if (typed.empty()) return " %";
   if (!base::isTypedNumber(typed)) {
-    const auto mismatch = base::ErrorNumber::typeMismatch;
-    throw base::Failure(mismatch, "Der Betrag \"" + typed + "\" ist keine Zahl. (" + base::errorText(mismatch) + ")");
+    constexpr auto kNumber = base::ErrorNumber::typeMismatch;
+    throw base::Failure(kNumber, base::withPlace("Der Betrag ist keine Zahl.", "\"" + typed + "\"", kNumber));
   }
   const double value = base::typedAmount(typed);
   return side.fixed.checked ? base::storedAmount(value).append(base::kEuroSuffix)
