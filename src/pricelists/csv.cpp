@@ -135,7 +135,7 @@ std::string typedForm(std::string_view price) {
   if (points == 0 || price.find_first_not_of("0123456789.,") != std::string_view::npos) return std::string(price);
   if (!isGrouped(whole)) return std::string(price);
   if (points == 1 && !hasComma) {
-    throw refused("Der Punkt kann Tausender oder Nachkommastellen abtrennen: bitte mit Komma schreiben.");
+    throw refused("Tausender- oder Dezimalpunkt? Bitte mit Komma schreiben.");
   }
   return base::replaceAll(price, ".", "");
 }

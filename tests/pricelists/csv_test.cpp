@@ -36,7 +36,7 @@ TEST(Csv, IsReadAsSpreadsheetsWriteIt) {
       {"Höhe;Preis 2026\n\n;\n 20 ; 1,255 €\n", "(Höhe;Preis 2026)[20=1.26 EUR]"},
       {"20;1.250,00 EUR\r30;1.250.000\r40;€ 3\r50;0.125\r60;12345.678",
        "[20=1250.00 EUR][30=1250000.00 EUR][40=3.00 EUR][50=0.13 EUR][60=12345.68 EUR]"},
-      {"20;1.250\n21;1\u00A0€\n22;1,250.00\n23;1..250,00", "[21=1.00 EUR]1 Der Punkt;3 Der Preis;4 Der Preis;"},
+      {"20;1.250\n21;1\u00A0€\n22;1,250.00\n23;1..250,00", "[21=1.00 EUR]1 Tausender-;3 Der Preis;4 Der Preis;"},
       {"\"Groß; \"\"XL\"\"\r\nneu\";\"2\"\nx;y\n", "[Groß; \"XL\" neu=2.00 EUR]3 Der Preis;"},
       {"Rohr 20\";3;;\nRohr;3;;x;\n", "[Rohr 20\"=3.00 EUR]2 Mehr;"},
       {"<FREI>;<FREI>\n<FREI>;\n<FREI>;4", "[<FREI>=<FREI>][<FREI>=<FREI>][<FREI>=4.00 EUR]"},
