@@ -179,6 +179,8 @@ ListBinding::ListBinding(base::ListBox& model, QListView& widget, const Context&
   widget.viewport()->installEventFilter(this);
   widget.verticalScrollBar()->installEventFilter(this);
   rows_.setTip([this](int row) { return this->context().wiring.tipOf(model_, row); });
+  // What is read anew, as by a window opened again, begins at its first row.
+  connect(&rows_, &QAbstractItemModel::modelReset, &widget, &QListView::scrollToTop);
   connect(&widget, &QListView::clicked, this, &ListBinding::click);
   connect(&widget, &QListView::doubleClicked, this, [this] { userChange([this] { fire(Event::doubleClick); }); });
   const QItemSelectionModel* selection = widget.selectionModel();
