@@ -135,12 +135,15 @@ WindowBinding::WindowBinding(base::Window& model, QWidget& form, const Context& 
 void WindowBinding::carry() {
   caption_.carry(model_.caption);
   if (state_.follow(model_.state)) form_.setWindowState(withState(form_.windowState(), model_.state));
-  if (staysOnTop_.follow(model_.staysOnTop)) carryFlags();
+  carryPlace();
 }
 
-// Setting the flag on the widget would hide the window and make a new one.
-void WindowBinding::carryFlags() {
-  form_.overrideWindowFlags(form_.windowFlags().setFlag(Qt::WindowStaysOnTopHint, model_.staysOnTop));
+// A window in front must not hide the dialog that it waits for. Setting the flag on the widget would hide the window
+// and make a new one.
+void WindowBinding::carryPlace() {
+  const bool staysOnTop = model_.staysOnTop && !isBlocked_;
+  if (!staysOnTop_.follow(staysOnTop)) return;
+  form_.overrideWindowFlags(form_.windowFlags().setFlag(Qt::WindowStaysOnTopHint, staysOnTop));
   if (QWindow* const handle = form_.windowHandle()) handle->setFlags(form_.windowFlags());
 }
 
@@ -149,6 +152,11 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::WindowStateChange:
       model_.state = stateOf(form_);
       state_.follow(model_.state);
+      return false;
+    case QEvent::WindowBlocked:
+    case QEvent::WindowUnblocked:
+      isBlocked_ = event->type() == QEvent::WindowBlocked;
+      carryPlace();
       return false;
     case QEvent::DragEnter:
     case QEvent::Drop:

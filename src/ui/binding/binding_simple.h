@@ -104,7 +104,7 @@ class WindowBinding : public Binding {
 
  private:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void carryFlags();
+  void carryPlace();
   bool takesFile(QDropEvent& event);
 
   base::Window& model_;
@@ -112,6 +112,7 @@ class WindowBinding : public Binding {
   DrawnText caption_;
   Shown<base::WindowState> state_;
   Shown<bool> staysOnTop_{false};
+  bool isBlocked_ = false;  // by a dialog
 };
 
 }  // namespace ui
