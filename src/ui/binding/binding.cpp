@@ -79,11 +79,12 @@ bool Binding::answersKeyDown(const QKeyEvent& key) {
   const auto own = eventOf(key);
   if (!own) return false;
   // Held down, a key that takes rows away would take them all.
-  const bool repeats = key.isAutoRepeat() && (*own == Event::keyDelete || *own == Event::keyInsert);
+  const bool repeats = keyRepeat_.isRepeat(key) && (*own == Event::keyDelete || *own == Event::keyInsert);
   return repeats ? handles(*own) : answers(*own);
 }
 
 void Binding::answerKeyUp(const QKeyEvent& key) {
+  keyRepeat_.released(key);
   if (!eventOf(key) && !isModifier(key)) answers(Event::keyOther);
 }
 

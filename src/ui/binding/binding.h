@@ -14,6 +14,7 @@
 #include "base/controls.h"
 #include "base/wiring.h"
 #include "ui/binding/gate.h"
+#include "ui/binding/key_repeat.h"
 #include "ui/binding/sync.h"
 
 namespace ui {
@@ -87,6 +88,7 @@ class Binding : public QObject, public Carrier {
 
   const base::EventSource source_;
   const Context context_;
+  KeyRepeat keyRepeat_;
 };
 
 /// What all controls have in common; `Model` is a base::Control.

@@ -59,15 +59,13 @@ bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-// An Esc that ended long work and is still down shall not close the window behind that. A desktop that does not mark
-// repeated keys lets them go and presses them in the same moment.
+// An Esc that ended long work and is still down shall not close the window behind that.
 bool InputFilter::isHeldEscape(const QEvent& event) {
   if (event.type() != QEvent::KeyPress && event.type() != QEvent::KeyRelease) return false;
   const auto& key = static_cast<const QKeyEvent&>(event);
   if (key.key() != Qt::Key_Escape) return false;
-  if (event.type() == QEvent::KeyRelease) escapeReleased_ = key.timestamp();
-  const bool isRepeated = key.isAutoRepeat() || (key.timestamp() != 0 && key.timestamp() == escapeReleased_);
-  return event.type() == QEvent::KeyPress && escapePressed_ && isRepeated;
+  if (event.type() == QEvent::KeyRelease) escapeRepeat_.released(key);
+  return event.type() == QEvent::KeyPress && escapePressed_ && escapeRepeat_.isRepeat(key);
 }
 
 void InputFilter::drop(QEvent& event) {

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "ui/binding/gate.h"
+#include "ui/binding/key_repeat.h"
 
 namespace ui {
 
@@ -35,7 +36,7 @@ class InputFilter : public QObject {
   const Gate& gate_;
   std::deque<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> held_;
   bool escapePressed_ = false;
-  quint64 escapeReleased_ = 0;  // the moment, as events tell it
+  KeyRepeat escapeRepeat_;
   bool isReleasing_ = false;
 };
 
