@@ -11,6 +11,7 @@
 #include "base/file_replacement.h"
 #include "base/files.h"
 #include "base/text.h"
+#include "settings/settings_files.h"
 
 namespace backup {
 namespace {
@@ -48,6 +49,14 @@ void copyFile(Kind kind, const std::string& from, const std::string& to) {
   const auto bytes = base::readFile(source);
   if (!bytes) throw base::fileFailure(ENOENT, source);
   base::replaceFile(pathOf(kind, to), *bytes);
+}
+
+// The source first: what cannot be read costs no copy.
+void restoreFile(Kind kind, const std::string& from, const std::string& to) {
+  const std::string source = pathOf(kind, from);
+  if (!base::readFile(source)) throw base::fileFailure(ENOENT, source);
+  settings::keepNumberedCopy(pathOf(kind, to));
+  copyFile(kind, from, to);
 }
 
 bool isValidDirectory(const std::string& path) {

@@ -23,6 +23,10 @@ inline constexpr std::array kKinds = {Kind::options, Kind::appointments, Kind::a
 /// A copy that came to a failure is `Failure`; the target then holds what it held before.
 void copyFile(Kind kind, const std::string& from, const std::string& to);
 
+/// The same for what is in use: what gives way is kept under the first free name "<file>.1", "<file>.2", …, unless one
+/// of them holds it already.
+void restoreFile(Kind kind, const std::string& from, const std::string& to);
+
 /// An absolute path of a directory that is there.
 [[nodiscard]] bool isValidDirectory(const std::string& path);
 /// Whether two paths, both of directories that are there, lead to the same one.

@@ -31,6 +31,7 @@ struct Direction {
   const char* present;
   const char* goOn;
   const char* questionTitle;
+  void (*copy)(Kind kind, const std::string& from, const std::string& to);
 };
 
 constexpr Direction kBackup{.nothingChosen = "Sie müssen Daten auswählen die gesichert werden sollen",
@@ -38,14 +39,16 @@ constexpr Direction kBackup{.nothingChosen = "Sie müssen Daten auswählen die g
                             .isProgramDirectory = "ACHTUNG! Sie können nicht in das Programmverzeichnis sichern",
                             .present = "Folgende Dateien sind am Speicherort vorhanden: ",
                             .goOn = "Trotzdem sichern?",
-                            .questionTitle = "Daten sichern"};
+                            .questionTitle = "Daten sichern",
+                            .copy = copyFile};
 constexpr Direction kRestore{
     .nothingChosen = "Sie müssen die Daten auswählen die Sie wiederherstellen möchten",
     .nothingChosenTitle = "Fehlerhafte Auswahl",
     .isProgramDirectory = "ACHTUNG! Sie können nicht vom Programmverzeichnis aus wiederherstellen",
     .present = "Folgende Dateien sind am Wiederherstellungsort vorhanden: ",
     .goOn = "Trotzdem wiederherstellen?",
-    .questionTitle = "Daten wiederherstellen"};
+    .questionTitle = "Daten wiederherstellen",
+    .copy = restoreFile};
 
 // In the order of kKinds.
 constexpr std::array<base::CheckBox BackupWindow::*, kKinds.size()> kBoxes = {
@@ -232,11 +235,11 @@ struct Copied {
   std::optional<base::Message> fault;  // what ended it before its end
 };
 
-Copied copyAll(const std::vector<Kind>& kinds, const std::string& from, const std::string& to) {
+Copied copyAll(const Direction& words, const std::vector<Kind>& kinds, const std::string& from, const std::string& to) {
   Copied copied;
   for (const Kind kind : kinds) {
     try {
-      copyFile(kind, from, to);
+      words.copy(kind, from, to);
     } catch (const std::exception& fault) {
       copied.fault = {.text = base::asFailure(fault).text(), .title = "Fehler I/O", .icon = MessageIcon::stop};
       return copied;
@@ -274,7 +277,7 @@ void run(const BackupParts& parts) {
   const std::vector<Kind> kinds = chosenKinds(parts.window);
   parts.platform.setHourglass(base::Hourglass::on);
   if (isBackup) parts.beforeBackup(kinds);
-  const Copied copied = copyAll(kinds, from, to);
+  const Copied copied = copyAll(words, kinds, from, to);
   if (!isBackup) parts.afterRestore(copied.kinds);
   parts.platform.setHourglass(base::Hourglass::off);
   parts.platform.messageBox(copied.fault.value_or(base::Message{

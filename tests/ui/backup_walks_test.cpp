@@ -48,6 +48,7 @@ TEST(Walk, DataAreSavedIntoANewDirectoryAndBroughtBackIntoTheRunningProgram) {
   openBackup(walk);
   EXPECT_EQ(shop.directory.read("stick/a/neu/Tessik.pdb"), shop.file("Tessik.pdb"));
 
+  const std::string former = shop.file("Tessik.pdb");
   shop.directory.write("stick/a/neu/Tessik.pdb", "[Versalien]\r\n0=20\r\n[Preise]\r\n0=5,00\r\n");
   walk.turnTo(windows.main);
   walk.whenAsked([&](QDialog& dialog) {
@@ -57,13 +58,15 @@ TEST(Walk, DataAreSavedIntoANewDirectoryAndBroughtBackIntoTheRunningProgram) {
     EXPECT_EQ(walk.text("cmdBackup"), "&Wiederherstellen");
     walk.expectBox("Trotzdem wiederherstellen?", QMessageBox::Yes);
     walk.expectBox("Vorgang erfolgreich", QMessageBox::Ok);
-    walk.click("cmdBackup");
+    walk.widget<QWidget>("cmdBackup").setFocus(Qt::TabFocusReason);
+    walk.press(Qt::Key_Return);
     dialog.close();
   });
   openBackup(walk);
   walk.turnTo(windows.main);
   EXPECT_EQ(walk.text("lblPreisNettoGesamt"), "10,00 EUR");
   EXPECT_EQ(shop.file("Tessik.pdb"), shop.directory.read("stick/a/neu/Tessik.pdb"));
+  EXPECT_EQ(shop.file("Tessik.pdb.1"), former) << "what gave way is kept";
   EXPECT_NE(shop.userStore().find("BackupPath=" + stick + "/a/neu"), std::string::npos);
   walk.leave();
 }

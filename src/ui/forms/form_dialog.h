@@ -4,6 +4,8 @@
 
 #include <QCloseEvent>
 #include <QDialog>
+#include <QKeyEvent>
+#include <QPushButton>
 
 namespace ui {
 
@@ -15,6 +17,13 @@ class FormDialog : public QDialog {
   void reject() override { close(); }
 
  protected:
+  // Enter is for the button that has the keys; the toolkit would leave it to the one that stands out.
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* const button = isEnter ? qobject_cast<QPushButton*>(focusWidget()) : nullptr;
+    if (button == nullptr) return QDialog::keyPressEvent(event);
+    if (!event->isAutoRepeat()) button->click();
+  }
   void closeEvent(QCloseEvent* event) override {
     event->accept();
     done(QDialog::Rejected);
