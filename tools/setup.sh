@@ -72,5 +72,8 @@ build_release() {
   if [[ ! $build/build.ninja -nt $root/CMakePresets.json ]]; then
     quietly cmake -S "$root" --preset release || return
   fi
+  # What is generated from the forms comes first and by itself: ninja would not see in the same run that it is new, and
+  # objects of two states would be linked together.
+  quietly cmake --build "$build" --target tessik_ui_autogen || return
   cmake --build "$build" --target "$@" -- --quiet | sed '/^ninja: no work to do\.$/d' >&2
 }

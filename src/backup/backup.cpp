@@ -5,7 +5,9 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <optional>
 #include <system_error>
+#include <utility>
 
 #include "base/failure.h"
 #include "base/file_replacement.h"
@@ -30,6 +32,13 @@ struct Named {
 constexpr std::array kTold = {Named{Kind::appointments, "Termine"}, Named{Kind::options, "Einstellungen"},
                               Named{Kind::adjustments, "Rabatte"}, Named{Kind::prices, "Preise"}};
 
+std::string bytesOf(Kind kind, const std::string& directory) {
+  const std::string path = pathOf(kind, directory);
+  std::optional<std::string> bytes = base::readFile(path);
+  if (!bytes) throw base::fileFailure(ENOENT, path);
+  return *std::move(bytes);
+}
+
 }  // namespace
 
 std::string pathOf(Kind kind, const std::string& directory) {
@@ -45,18 +54,15 @@ std::vector<std::string_view> namesIn(const std::string& directory) {
 }
 
 void copyFile(Kind kind, const std::string& from, const std::string& to) {
-  const std::string source = pathOf(kind, from);
-  const auto bytes = base::readFile(source);
-  if (!bytes) throw base::fileFailure(ENOENT, source);
-  base::replaceFile(pathOf(kind, to), *bytes);
+  base::replaceFile(pathOf(kind, to), bytesOf(kind, from));
 }
 
 // The source first: what cannot be read costs no copy.
 void restoreFile(Kind kind, const std::string& from, const std::string& to) {
-  const std::string source = pathOf(kind, from);
-  if (!base::readFile(source)) throw base::fileFailure(ENOENT, source);
-  settings::keepNumberedCopy(pathOf(kind, to));
-  copyFile(kind, from, to);
+  const std::string bytes = bytesOf(kind, from);
+  const std::string target = pathOf(kind, to);
+  settings::keepNumberedCopy(target);
+  base::replaceFile(target, bytes);
 }
 
 bool isValidDirectory(const std::string& path) {
