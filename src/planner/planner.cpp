@@ -16,6 +16,8 @@
 #include "planner/appointment.h"
 #include "planner/appointment_store.h"
 #include "planner/reminders.h"
+#include "printing/output.h"
+#include "printing/printouts.h"
 
 namespace planner {
 namespace {
@@ -246,6 +248,24 @@ void takeOut(const PlannerParts& parts) {
   hint(window, kTakenOut);
 }
 
+std::string_view shownListName(const PlannerWindow& window) {
+  return window.SSTab1.current == 0 ? "Termine" : "Alte Termine";
+}
+
+base::PrintJob printout(const PlannerParts& parts) {
+  PlannerWindow& window = parts.window;
+  return printing::appointmentPrintout(shownListName(window), window.shownList().items, parts.platform.now());
+}
+
+void print(const PlannerParts& parts) { printing::print(printout(parts), parts.platform); }
+
+void preview(const PlannerParts& parts) { parts.platform.printPreview(printout(parts)); }
+
+void savePdf(const PlannerParts& parts) {
+  const std::string suggestion = printing::pdfNameOf({}, std::string(shownListName(parts.window)));
+  printing::saveAsPdf(printout(parts), suggestion, parts.platform);
+}
+
 void saveSwitches(const PlannerParts& parts) {
   const auto digit = [](const base::CheckBox& box) { return std::string(box.checked ? "1" : "0"); };
   parts.platform.saveUserSettings(
@@ -309,6 +329,9 @@ void wireCommands(base::Wiring& wiring, const PlannerParts& parts) {
   const auto remove = reported(parts, "Termine-loeschen", removeSelected);
   command(window.loeschen, window.mnuLöschen, remove);
   command(window.Command4, window.mnClearAll, reported(parts, "Termine-Command4AllesLöschen", clearShown));
+  wiring.on(window.cmdPrint, Event::click, reported(parts, "Termine-cmdPrint", print));
+  wiring.on(window.cmdVorschau, Event::click, reported(parts, "Termine-cmdVorschau", preview));
+  wiring.on(window.cmdPDF, Event::click, reported(parts, "Termine-cmdPDF", savePdf));
   for (const base::ListBox* const list : {&window.Liste, &window.List1}) wiring.on(*list, Event::keyDelete, remove);
   wiring.on(window.Liste, Event::doubleClick, reported(parts, "Termine-ListeDblClick", takeOut));
 }

@@ -33,6 +33,9 @@ namespace planner {
   CONTROL(base::Button, cmdMove)                                                           \
   CONTROL(base::Button, loeschen)                                                          \
   CONTROL(base::Button, Command4)       /* clears the list */                              \
+  CONTROL(base::Button, cmdPrint)                                                          \
+  CONTROL(base::Button, cmdVorschau)                                                       \
+  CONTROL(base::Button, cmdPDF)                                                            \
   CONTROL(base::Button, Ende)                                                              \
   CONTROL(base::MenuEntry, mnuHinzufügen)                                                  \
   CONTROL(base::MenuEntry, mnuMove)                                                        \

@@ -39,11 +39,12 @@ base::PrintJob containerPrintout(const base::RichText& text, const base::DateTim
   return job(printed("Container", moment), base::plainDocument(content, {.colour = 0x000000}));
 }
 
-base::PrintJob appointmentListing(std::string_view heading, const std::vector<std::string>& lines) {
+base::PrintJob appointmentPrintout(std::string_view listName, const base::ItemList& lines,
+                                   const base::DateTime& moment) {
   constexpr double kPoints = 10;
   std::string text;
   for (const std::string& line : lines) text.append(line).append(base::kLineBreak);
-  return job(std::string(heading), base::plainDocument(text, {.points = kPoints}));
+  return job(printed(listName, moment), base::plainDocument(text, {.points = kPoints}));
 }
 
 }  // namespace printing

@@ -3,8 +3,8 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "base/controls.h"
 #include "base/date_time.h"
 #include "base/print_job.h"
 #include "base/rich_text.h"
@@ -20,7 +20,8 @@ base::PrintJob documentPrintout(const base::RichText& text, const std::string& f
 /// What is selected of the container, set off by a rule of its own, or all of it; in one plain format.
 base::PrintJob containerPrintout(const base::RichText& text, const base::DateTime& moment);
 
-/// Appointments as the lines that their list shows.
-base::PrintJob appointmentListing(std::string_view heading, const std::vector<std::string>& lines);
+/// Appointments as the lines that their list shows; the heading tells which list, and the moment.
+base::PrintJob appointmentPrintout(std::string_view listName, const base::ItemList& lines,
+                                   const base::DateTime& moment);
 
 }  // namespace printing

@@ -122,6 +122,19 @@ TEST_F(Printing, PriceListsArePrintedAsTheyAreExported) {
                                                       std::string(52, ' ') + "12.00 EUR||"}));
 }
 
+TEST_F(Printing, OfTheAppointmentsThoseOnTopArePrinted) {
+  planner::PlannerWindow& window = desk.program.windows.planner;
+  window.Liste.items.assign({"01.02.2030   09:00       Zahnarzt", "02.01.2030   08:00       Müller"});
+  window.List1.items.assign({"03.02.2004   10:00       alt"});
+  const std::string moment = " - Ausdruck vom 21.11.2026 um 09:05:00";
+  EXPECT_EQ(
+      shown(lastOf(window.cmdPrint)),
+      (Lines{"Tessik 1.4 / Termine" + moment, "01.02.2030   09:00       Zahnarzt|02.01.2030   08:00       Müller||"}));
+  window.SSTab1.current = 1;
+  EXPECT_EQ(shown(lastOf(window.cmdPrint)),
+            (Lines{"Tessik 1.4 / Alte Termine" + moment, "03.02.2004   10:00       alt||"}));
+}
+
 TEST_F(Printing, WithoutAPrinterItIsSaid) {
   desk.platform.printers = 0;
   for (const base::Control* const command : {static_cast<const base::Control*>(&desk.window.mnuPrint),

@@ -56,6 +56,9 @@ TEST(Walk, AnAppointmentIsEnteredWatchedAndAnnounced) {
   EXPECT_EQ(walk.text("TerminText"), "Schild „Café“ liefern");
   EXPECT_TRUE(walk.widget<QWidget>("lblHinweis").isVisible());
   walk.click("Erzeugen");
+  walk.whenAsked([&](QDialog& dialog) { chooseFile(dialog, QString::fromStdString(shop.directory.path("T.pdf"))); });
+  walk.click("cmdPDF");
+  EXPECT_TRUE(shop.directory.read("T.pdf").starts_with("%PDF-"));
   walk.click("Check_Beep");
   walk.press(Qt::Key_Escape);
   const std::string kept = "0=28.02.2030   12:07       Schild „Café“ liefern\r\n";
