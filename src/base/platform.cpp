@@ -34,7 +34,7 @@ bool Platform::openSound(const std::string& /*path*/) { return false; }
 void Platform::playSound() { notAvailable(); }
 void Platform::stopSound() { notAvailable(); }
 void Platform::closeSound() { notAvailable(); }
-std::string Platform::ownChime() const { return {}; }
+std::string Platform::ownFile(std::string_view /*name*/) const { return {}; }
 void Platform::notify(const Notification& /*notification*/) {}
 DateTime Platform::now() const { notAvailable(); }
 int Platform::screenWidth() const { notAvailable(); }
@@ -51,6 +51,7 @@ void Platform::printPreview(const PrintJob& /*job*/) { notAvailable(); }
 void Platform::printerSetUp() { notAvailable(); }
 std::string Platform::pdf(const PrintJob& /*job*/) { notAvailable(); }
 void Platform::mail(const std::string& /*file*/, const std::string& /*subject*/) { notAvailable(); }
+void Platform::openFile(const std::string& /*file*/) { notAvailable(); }
 std::optional<std::string> Platform::userSetting(std::string_view /*key*/) const { notAvailable(); }
 void Platform::saveUserSettings(const std::vector<UserSetting>& /*settings*/) { notAvailable(); }
 NumberFormat Platform::numberFormat() const { notAvailable(); }

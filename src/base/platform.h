@@ -129,8 +129,8 @@ class Platform {
   virtual void playSound();
   virtual void stopSound();
   virtual void closeSound();
-  /// The wave file that comes with the program.
-  [[nodiscard]] virtual std::string ownChime() const;
+  /// The path of a file that comes with the program, empty when it is missing.
+  [[nodiscard]] virtual std::string ownFile(std::string_view name) const;
 
   /// Tells something urgent that stays until the person takes it away. Where the desktop has no place for that, nothing
   /// happens.
@@ -168,6 +168,8 @@ class Platform {
   [[nodiscard]] virtual std::string pdf(const PrintJob& job);
   /// Opens a new message of the desktop's mail program with `file` attached. A desktop without one is a Failure.
   virtual void mail(const std::string& file, const std::string& subject);
+  /// Shows `file` in the desktop's program for its kind. A desktop without one is a Failure.
+  virtual void openFile(const std::string& file);
 
   /// A value of the user's own store (application Tessik, section "Prog"); nothing when the key is missing.
   [[nodiscard]] virtual std::optional<std::string> userSetting(std::string_view key) const;

@@ -17,6 +17,7 @@
 #include "commands/tool_commands.h"
 #include "commands/undo_commands.h"
 #include "editor/editing.h"
+#include "frame/manual.h"
 
 namespace commands {
 namespace {
@@ -55,6 +56,8 @@ void wireEditing(Wiring& wiring, const MainParts& parts) {
 void wireProgram(Wiring& wiring, const MainParts& parts) {
   wiring.on(parts.window.mnuExit, Event::click,
             reported(parts, "MAIN-mnuExit_Click", [](const MainParts& p) { p.platform.close(p.window); }));
+  wiring.on(parts.window.mnuHelp, Event::click,
+            reported(parts, "MAIN-mnuHelp_Click", [](const MainParts& p) { frame::openManual(p.paths, p.platform); }));
   wiring.on(parts.window.mnuInfo, Event::click, reported(parts, "MAIN-mnuInfo_Click", [](const MainParts& p) {
               p.platform.messageBox(
                   {.text = base::versionLine() +

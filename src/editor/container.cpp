@@ -8,6 +8,7 @@
 
 #include "editor/editing.h"
 #include "editor/text_search.h"
+#include "frame/manual.h"
 #include "printing/output.h"
 #include "printing/printouts.h"
 
@@ -211,6 +212,8 @@ void wireContainer(base::Wiring& wiring, const ContainerParts& parts) {
   on.reported(window.mnuPrinterConfig, "CONTAINER-mnuPrinterConfig", setUpPrinter);
   on.skipped(window.mnuSearch, search);
   on.skipped(window.mnuFindNext, findNext);
+  on.reported(window.mnuHelp, "CONTAINER-mnuHelp",
+              [](const ContainerParts& container) { frame::openManual(container.paths, container.platform); });
   wiring.onFile(window, [parts](const std::string& path) { openDropped(parts, path); });
   wiring.on(window.mnuExit, Event::click, [parts] { parts.platform.close(parts.window); });
 }

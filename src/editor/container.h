@@ -13,6 +13,7 @@
 #include "editor/open_document.h"
 #include "editor/undo_store.h"
 #include "errors/reporting.h"
+#include "settings/settings.h"
 
 namespace editor {
 
@@ -36,7 +37,8 @@ namespace editor {
   CONTROL(base::MenuEntry, mnuClear)       \
   CONTROL(base::MenuEntry, mnuMarkAll)     \
   CONTROL(base::MenuEntry, mnuSearch)      \
-  CONTROL(base::MenuEntry, mnuFindNext)
+  CONTROL(base::MenuEntry, mnuFindNext)    \
+  CONTROL(base::MenuEntry, mnuHelp)
 // clang-format on
 
 struct ContainerWindow : base::Window {
@@ -52,6 +54,7 @@ struct ContainerParts {
   ContainerWindow& window;
   OpenDocument& document;
   UndoStore& undo;
+  const settings::Paths& paths;
   base::Platform& platform;
   errors::Reporter& reporter;
 };

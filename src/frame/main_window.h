@@ -132,6 +132,7 @@ namespace frame {
   CONTROL(base::MenuEntry, mnuOptionen)                                                        \
   CONTROL(base::MenuEntry, mnuDatenbank)                                                       \
   CONTROL(base::MenuEntry, mnuVoll)                                                            \
+  CONTROL(base::MenuEntry, mnuHelp)                                                            \
   CONTROL(base::MenuEntry, mnuInfo)                                                            \
   CONTROL(base::MenuEntry, mnuCalculator)                                                      \
   CONTROL(base::MenuEntry, mnuBackup)                                                          \

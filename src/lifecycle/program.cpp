@@ -45,6 +45,7 @@ editor::ContainerParts containerPartsOf(Program& program) {
   return {.window = program.windows.container,
           .document = program.containerDocument,
           .undo = program.containerUndo,
+          .paths = program.paths,
           .platform = program.platform,
           .reporter = program.reporter};
 }

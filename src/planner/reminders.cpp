@@ -35,7 +35,7 @@ std::string fixedChime(const base::Platform& platform) { return settings::defaul
 
 // The fixed chime is not on every system.
 std::string soundAt(const std::string& path, const base::Platform& platform) {
-  return path == fixedChime(platform) && !base::FileExists(path) ? platform.ownChime() : path;
+  return path == fixedChime(platform) && !base::FileExists(path) ? platform.ownFile("Chimes.wav") : path;
 }
 
 void soundSignal(const PlannerParts& parts, const std::string& sound) {

@@ -22,5 +22,6 @@ std::string Paths::adjustmentSettings() const { return base::joinPath(programDir
 std::string Paths::priceDatabase() const { return base::joinPath(programDirectory, "Tessik.pdb"); }
 std::string Paths::ownWords() const { return base::joinPath(programDirectory, "Woerter.txt"); }
 std::string Paths::appointments() const { return base::joinPath(programDirectory, "Termine.ini"); }
+std::string Paths::manual() const { return base::joinPath(programDirectory, "Anleitung.mht"); }
 
 }  // namespace settings

@@ -51,6 +51,7 @@ struct Paths {
   [[nodiscard]] std::string priceDatabase() const;       // Tessik.pdb
   [[nodiscard]] std::string ownWords() const;            // Woerter.txt
   [[nodiscard]] std::string appointments() const;        // Termine.ini
+  [[nodiscard]] std::string manual() const;              // Anleitung.mht
 };
 
 /// Lists that are read and kept although nothing uses them yet.

@@ -21,8 +21,8 @@
 #include "qttext/pdf.h"
 #include "ui/appearance.h"
 #include "ui/desktop_notification.h"
+#include "ui/desktop_tools.h"
 #include "ui/format_dialogs.h"
-#include "ui/printing/mail.h"
 #include "ui/system_information.h"
 #include "ui/text/clipboard_formats.h"
 #include "ui/utf8.h"
@@ -235,6 +235,11 @@ std::string QtPlatform::pdf(const base::PrintJob& job) {
 void QtPlatform::mail(const std::string& file, const std::string& subject) {
   const Busy busy(*this);
   composeMail(file, subject);
+}
+
+void QtPlatform::openFile(const std::string& file) {
+  const Busy busy(*this);
+  showFile(file);
 }
 
 std::optional<std::string> QtPlatform::userSetting(std::string_view key) const {

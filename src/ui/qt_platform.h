@@ -18,6 +18,7 @@
 #include "ui/binding/input_filter.h"
 #include "ui/binding/sync.h"
 #include "ui/hunspell_dictionary.h"
+#include "ui/own_files.h"
 #include "ui/printing/printing.h"
 #include "ui/shown_windows.h"
 #include "ui/sound_player.h"
@@ -58,7 +59,7 @@ class QtPlatform : public base::Platform {
   void playSound() override { sound_.play(); }
   void stopSound() override { sound_.stop(); }
   void closeSound() override { sound_.close(); }
-  [[nodiscard]] std::string ownChime() const override { return ui::ownChime(); }
+  [[nodiscard]] std::string ownFile(std::string_view name) const override { return ui::ownFile(name); }
   void notify(const base::Notification& notification) override;
   [[nodiscard]] base::DateTime now() const override;
   [[nodiscard]] int screenWidth() const override;
@@ -75,6 +76,7 @@ class QtPlatform : public base::Platform {
   void printerSetUp() override;
   [[nodiscard]] std::string pdf(const base::PrintJob& job) override;
   void mail(const std::string& file, const std::string& subject) override;
+  void openFile(const std::string& file) override;
   [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
   void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   [[nodiscard]] base::NumberFormat numberFormat() const override;

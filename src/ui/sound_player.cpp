@@ -1,8 +1,6 @@
 // Wave files, played by a program of the sound system.
 #include "ui/sound_player.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -47,15 +45,6 @@ bool hasServer() {
 int soundDevices() {
   if (playerProgram().isEmpty()) return 0;
   return cards() + (hasServer() ? 1 : 0);
-}
-
-std::string ownChime() {
-  const QDir program(QCoreApplication::applicationDirPath());
-  for (const char* const place : {"../share/tessik/Chimes.wav", "share/tessik/Chimes.wav"}) {
-    const QString path = program.filePath(QString::fromLatin1(place));
-    if (QFileInfo::exists(path)) return toUtf8(QDir::cleanPath(path));
-  }
-  return {};
 }
 
 bool SoundPlayer::open(const std::string& path) {

@@ -11,9 +11,6 @@ namespace ui {
 /// How many devices can play; none when nothing is there to play on them.
 int soundDevices();
 
-/// The chime that is installed with the program, or lies beside it where it was built; empty when it is missing.
-std::string ownChime();
-
 class SoundPlayer {
  public:
   ~SoundPlayer() { stop(); }

@@ -199,6 +199,15 @@ TEST_F(Files, TheRecoveryCopyFollowsTheTextAndGoesWithACleanEnd) {
   EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
 }
 
+TEST_F(Files, TheManualIsTheShopsOwnOrOurs) {
+  session.platform.log.clear();
+  session.click(session.window.mnuHelp);
+  directory.write("Anleitung.mht", "MIME-Version: 1.0");
+  session.click(session.program.windows.container.mnuHelp);
+  EXPECT_EQ(session.platform.log,
+            (std::vector<std::string>{"opened own Anleitung.html", "opened " + directory.path("Anleitung.mht")}));
+}
+
 TEST_F(Files, OfSeveralCopiesTheNewestIsTakenWhoseProgramIsGone) {
   const pid_t running = ::fork();
   if (running == 0) ::pause(), ::_exit(0);

@@ -205,9 +205,9 @@ TEST(Planner, missedAppointmentsAreAnnouncedInOrderWithTheFixedChime) {
   EXPECT_EQ(planner.planner.Liste.items[0], line("24.12.2004   14:31", "c"));
   EXPECT_NE(planner.file().find("[TermineAlt]\n0=01"), std::string::npos);
   const auto& log = planner.platform.log;
-  EXPECT_EQ(
-      std::vector(log.begin(), log.begin() + 3),
-      (std::vector<std::string>{"sound own chime", "play", "notify Termin am 01.01.2004 um 10:00 Uhr: Versäumt: a"}));
+  EXPECT_EQ(std::vector(log.begin(), log.begin() + 3),
+            (std::vector<std::string>{"sound own Chimes.wav", "play",
+                                      "notify Termin am 01.01.2004 um 10:00 Uhr: Versäumt: a"}));
   EXPECT_EQ(planner.platform.beeps, 0);
 
   directory.write("Termine.ini", "[Termine]\n0=" + line("01.01.2004   10:00", "a") + "\n1=kaputt");

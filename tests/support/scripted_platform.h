@@ -97,7 +97,7 @@ class ScriptedPlatform : public base::Platform {
   void playSound() override { log.push_back("play"); }
   void stopSound() override { throw base::Failure(base::ErrorNumber::invalidCall); }
   void closeSound() override { throw base::Failure(base::ErrorNumber::invalidCall); }
-  [[nodiscard]] std::string ownChime() const override { return "own chime"; }
+  [[nodiscard]] std::string ownFile(std::string_view name) const override { return "own " + std::string(name); }
   void notify(const base::Notification& told) override { log.push_back("notify " + told.title + ": " + told.text); }
   [[nodiscard]] base::DateTime now() const override { return moment; }
   [[nodiscard]] int screenWidth() const override { return width; }
@@ -118,6 +118,7 @@ class ScriptedPlatform : public base::Platform {
   void printerSetUp() override { log.emplace_back("printer"); }
   [[nodiscard]] std::string pdf(const base::PrintJob& job) override { return printed.push_back(job), job.title; }
   void mail(const std::string& file, const std::string& subject) override { log.push_back(subject + ": " + file); }
+  void openFile(const std::string& file) override { log.push_back("opened " + file); }
   [[nodiscard]] std::optional<std::string> userSetting(std::string_view key) const override;
   void saveUserSettings(const std::vector<base::UserSetting>& settings) override;
   void setHourglass(base::Hourglass value) override { hourglass = value; }
