@@ -39,8 +39,8 @@ bool isFirstUse(const std::string& directory) {
   return !std::filesystem::exists(directory, ignored);
 }
 
-bool createOnFirstUse(const std::string& directory) {
-  if (!isFirstUse(directory)) return false;
+void createOnFirstUse(const std::string& directory) {
+  if (!isFirstUse(directory)) return;
   std::error_code error;
   // Made beside its place and renamed: a directory without its files would never be filled again.
   const std::string draft = directory + ".neu";
@@ -49,9 +49,8 @@ bool createOnFirstUse(const std::string& directory) {
   samplePriceList().save(settings::Paths{draft}.priceDatabase());
   std::filesystem::rename(draft, directory, error);
   std::error_code ignored;
-  if (error && std::filesystem::is_directory(directory, ignored)) return false;  // another start was quicker
+  if (error && std::filesystem::is_directory(directory, ignored)) return;  // another start was quicker
   if (error) throw base::fileFailure(error.value(), directory);
-  return true;
 }
 
 }  // namespace lifecycle

@@ -14,8 +14,8 @@ base::ProfileFile samplePriceList();
 /// True while the user's own `directory` has not been created.
 bool isFirstUse(const std::string& directory);
 
-/// Creates `directory` with the sample price list unless it is there already; it appears whole or not at all. True when
-/// it was created. A failure names the directory.
-bool createOnFirstUse(const std::string& directory);
+/// Creates `directory` with the sample price list unless it is there already; it appears whole or not at all. A
+/// failure names the directory.
+void createOnFirstUse(const std::string& directory);
 
 }  // namespace lifecycle

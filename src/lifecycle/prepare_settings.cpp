@@ -53,12 +53,6 @@ void writeFirstStart(Program& program, base::Platform& platform) {
   resetKeys(program.settings.user);
 }
 
-// Nobody is asked about the files of a directory that the program has just made itself.
-void writeNewDirectory(const Program& program) {
-  settings::writeDefaults(program.paths, program.settings, File::general);
-  settings::writeDefaults(program.paths, program.settings, File::lists);
-}
-
 bool mayCreate(base::Platform& platform, const std::string& what, const std::string& name) {
   const base::Message question{
       .text = what + " nicht vorhanden oder defekt!\r            Soll eine neue " + name + " erstell werden?",
@@ -107,16 +101,13 @@ StartUp prepareSettings(Program& program, const commands::MainParts& parts) {
   const auto step = [&](auto&& procedure) { errors::reporting(parts.reporter, kLoadTag, procedure); };
   step([&] { settings::readUserKeys(parts.platform, program.settings.user); });
   bool hasDirectory = false;
-  bool isNew = false;
   step([&] {
-    isNew = program.createsDirectory && createOnFirstUse(program.paths.programDirectory);
+    if (program.createsDirectory) createOnFirstUse(program.paths.programDirectory);
     hasDirectory = true;
   });
   if (!hasDirectory) return StartUp::goesOn;  // with the defaults in memory
   if (program.settings.user.version != base::kVersion) {
     step([&] { writeFirstStart(program, parts.platform); });
-  } else if (isNew) {
-    step([&] { writeNewDirectory(program); });
   }
   for (const File file : {File::general, File::lists}) {
     if (createIfMissing(program, parts, file) == StartUp::ends) return StartUp::ends;

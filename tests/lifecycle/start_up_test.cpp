@@ -97,7 +97,7 @@ TEST(StartUp, AFirstStartWritesFilesAndKeysWithoutAsking) {
   EXPECT_EQ(session.window.lblHinweis.text, "");
 }
 
-TEST(StartUp, ADirectoryOfItsOwnIsMadeWithoutQuestionsAndCopies) {
+TEST(StartUp, ADirectoryOfItsOwnIsMadeWithoutCopiesAndLaterOnWithQuestions) {
   for (const char* const version : {"", "1.4"}) {
     const TemporaryDirectory home;
     const TemporaryDirectory unused;
@@ -105,6 +105,9 @@ TEST(StartUp, ADirectoryOfItsOwnIsMadeWithoutQuestionsAndCopies) {
     session.program.paths.programDirectory = home.path("tessik");
     session.program.createsDirectory = true;
     session.platform.userSettings["Version"] = version;
+    for (const char* const name : {"Ostrowerk.ini", "Tessik.ini"}) {
+      if (*version != '\0') expectMissing(session, name, base::MessageAnswer::yes);
+    }
     session.start();
     for (const char* const name : {"Ostrowerk.ini", "Tessik.ini", "Tessik.pdb"}) {
       EXPECT_NE(home.read(std::string("tessik/") + name), "") << name;
