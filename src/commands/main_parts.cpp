@@ -16,7 +16,7 @@ calc::CalcParts calcParts(const MainParts& parts) {
 }
 
 void offerUndo(const MainParts& parts) {
-  parts.window.mnuUndo.enabled = parts.results.TextLength >= 1 && parts.undo.canUndo();
+  parts.window.mnuUndo.enabled = parts.results.TextLength >= 1;
   parts.window.mnuRedo.enabled = parts.undo.canRedo();
 }
 

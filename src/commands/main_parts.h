@@ -72,11 +72,10 @@ void inOneStep(const MainParts& parts, Command command) {
 /// The parts that the calculation takes of all these.
 calc::CalcParts calcParts(const MainParts& parts);
 
-/// Offers undo and redo as far as there is something; undo wants a lettering, as the other document commands do.
+/// Offers undo with a lettering, as the other document commands are, and redo as far as there is something.
 void offerUndo(const MainParts& parts);
 
-/// Shows the format at the caret, runs the calculation and offers undo and redo as far as there is something; undo
-/// wants a lettering, as the other document commands do. A failure is the caller's.
+/// Shows the format at the caret, runs the calculation and offers undo and redo. A failure is the caller's.
 void calculate(const MainParts& parts);
 
 }  // namespace commands
