@@ -59,9 +59,11 @@ void calculate(const RollGoods& goods) {
   window.lblPBrutto.text = base::euroText(calc::grossTotal(window.Gesamtpreis, goods.rates.vatPercent), format);
 }
 
-// A field that comes to 0 is not finished yet.
-void calculateTyped(const RollGoods& goods, const base::TextBox& field) {
-  if (base::leadingNumber(field.text) != 0) calculate(goods);
+// An emptied field is selected, so that the next key replaces what it holds now; 0 may be the beginning of "0.5".
+void calculateTyped(const RollGoods& goods, base::TextBox& field) {
+  const bool isEmptied = field.text.empty();
+  if (isEmptied || base::leadingNumber(field.text) != 0) calculate(goods);
+  field.wantsSelectAll = isEmptied;
 }
 
 template <typename Run>

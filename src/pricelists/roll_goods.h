@@ -1,7 +1,7 @@
 // Roll goods: foil sold by area, priced from a list of foils of its own.
 //
-// The three inputs have "." as their decimal separator. While one of them is being typed and comes to 0, nothing is
-// calculated yet, so that 0.5 can be typed; any other calculation puts 1 in its place.
+// The three inputs have "." as their decimal separator. While one of them is being typed and comes to 0 without being
+// empty, nothing is calculated yet, so that 0.5 can be typed; any other calculation puts 1 in its place.
 #pragma once
 
 #include <string>

@@ -43,6 +43,8 @@ TEST(RollGoods, AreToldToTheContainerLineByLine) {
   window.List1.current = 0;
   desk.click(window.List1);
   desk.click(window.Option2);
+  desk.type(window.txtHöhe, "");
+  EXPECT_EQ(window.txtHöhe.text, "1.00");
   desk.type(window.txtHöhe, "100,0");
   desk.type(window.txtBreite, "50");
   desk.type(window.txtStück, "0");
