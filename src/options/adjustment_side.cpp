@@ -85,17 +85,15 @@ void chooseFixed(const AdjustmentSide& side) {
   side.fixed.checked = true;
 }
 
-/// What is typed as it is stored: "12.50 EUR" or "7.5 %"; a text that is no number is error 13.
+/// What is typed as it is stored: "12.50 EUR", where a text that is no number is error 13, or "7.5 %", as it is typed.
 std::string amountText(const AdjustmentSide& side) {
   const std::string& typed = side.amount.text;
-  if (typed.empty()) return " %";
+  if (!side.fixed.checked) return base::withDecimalPoint(typed).append(" %");
   if (!base::isTypedNumber(typed)) {
     constexpr auto kNumber = base::ErrorNumber::typeMismatch;
     throw base::Failure(kNumber, base::withPlace("Der Betrag ist keine Zahl.", "\"" + typed + "\"", kNumber));
   }
-  const double value = base::typedAmount(typed);
-  return side.fixed.checked ? base::storedAmount(value).append(base::kEuroSuffix)
-                            : base::withDecimalPoint(typed).append(" %");
+  return base::storedAmount(base::typedAmount(typed)).append(base::kEuroSuffix);
 }
 
 bool canBeStored(std::array<std::string, settings::AdjustmentList::kSlots> slots, int slot, const std::string& text) {

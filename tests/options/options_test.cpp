@@ -60,7 +60,7 @@ TEST(Options, AmountsAndRemarksEnterTheListOrAreRefusedWithAWord) {
       {true, "", "Eil", "", 0},
       {false, "", "Eil", "", 1},
       {false, ",", "Eil", "", 0, true},
-      {true, "1,2,3", "Eil", "", 0, true},
+      {true, "1,2,3", "Eil", "1.2.3 % -> Eil", 0},
       {false, "1", "  ", "", 1},
       {false, "1", " [Rabatte]", "", 1},
       {true, "1", ";Eil", "", 1},
