@@ -130,9 +130,16 @@ void addEntry(const AdjustmentSide& side, base::Platform& platform, const std::s
   side.list.current = slot;
 }
 
+bool hasChoice(const AdjustmentSide& side, base::Platform& platform) {
+  const bool has = side.list.current >= 1 && side.list.items.holds(side.list.current);
+  if (!has) refuse(side, platform, "Bitte zuerst einen eigenen Eintrag der Liste markieren.");
+  return has;
+}
+
 void changeEntry(const AdjustmentSide& side, base::Platform& platform, const std::string& amount) {
+  if (!hasChoice(side, platform)) return;
   const int slot = side.list.current;
-  if (slot < 1 || side.amount.text.empty() || !mayStore(side, platform, slot, amount)) return;
+  if (side.amount.text.empty() || !mayStore(side, platform, slot, amount)) return;
   side.stored.remark(slot) = side.remark.text;
   side.list.items.set(slot, rowText(amount, side.remark.text));
   side.stored.amount(slot) = amount;
@@ -163,12 +170,6 @@ constexpr auto add = addOrChange<EmptyPercentage::isIgnored>;
 void addAndGoOn(const AdjustmentSide& side, base::Platform& platform) {
   side.amount.wantsFocus = true;
   add(side, platform);
-}
-
-bool hasChoice(const AdjustmentSide& side, base::Platform& platform) {
-  const bool has = side.list.current >= 1 && side.list.items.holds(side.list.current);
-  if (!has) refuse(side, platform, "Bitte zuerst einen eigenen Eintrag der Liste markieren.");
-  return has;
 }
 
 /// 12.50 as "12,5".

@@ -105,7 +105,11 @@ TEST(Options, RowsAndSlotsPartOnPurpose) {
       desk.click(side.remove);
       EXPECT_EQ(desk.slots(side), "1.00 EUR -> 1|2.00 EUR -> 2||||");
       side.list.current = 1;
+      desk.click(side.menuPick);
       desk.program.wiring.fire(side.list, Event::keyDelete);
+      const int beeps = desk.platform.beeps;
+      desk.click(side.add);
+      EXPECT_EQ(desk.platform.beeps - beeps, 1) << "the entry is gone";
       EXPECT_EQ(desk.slots(side), "1.00 EUR -> 1|2.00 EUR -> 2||||");
       EXPECT_EQ(side.count.text + " " + std::to_string(side.gauge.value), "2/100 2");
     });
