@@ -11,6 +11,7 @@ build=$root/build/release
 run_packages=(
   g++ cmake ninja-build qt6-base-dev libgtest-dev
   libhunspell-dev hunspell-de-de libqt6svg6 breeze-icon-theme fonts-dejavu-core qt6-translations-l10n
+  xdg-utils
 )
 # Without it Qt reaches a Wayland desktop only through its X server.
 [[ -z ${WAYLAND_DISPLAY:-} ]] || run_packages+=(qt6-wayland)
