@@ -18,11 +18,6 @@ constexpr std::size_t kTypedTextAt = 26;
 constexpr int kLeastYear = 100;
 constexpr int kMostYear = 9999;
 
-std::string padded(int number, std::size_t width) {
-  std::string digits = std::to_string(number);
-  return digits.insert(0, width - std::min(width, digits.size()), '0');
-}
-
 std::chrono::year_month_day dayOf(const base::DateTime& moment) {
   return std::chrono::year(moment.year) / moment.month / moment.day;
 }
@@ -56,7 +51,12 @@ int numberAt(std::string_view digits, std::size_t at, std::size_t count) {
 
 }  // namespace
 
+std::string filledUp(std::string digits, std::size_t width) {
+  return digits.insert(0, width - std::min(width, digits.size()), '0');
+}
+
 std::string keyOf(const base::DateTime& moment, const base::DateFormat& format) {
+  const auto padded = [](int number, std::size_t width) { return filledUp(std::to_string(number), width); };
   const std::string& slash = format.dateSeparator;
   return padded(moment.day, 2) + slash + padded(moment.month, 2) + slash + padded(moment.year, 4) + "   " +
          padded(moment.hour, 2) + format.timeSeparator + padded(moment.minute, 2);
@@ -70,20 +70,23 @@ std::optional<base::DateTime> validDate(std::string_view day, std::string_view m
   return existing(*d, *m, withCentury(*y));
 }
 
+base::DateTime atTime(base::DateTime day, int hour, int minute) {
+  constexpr int kLastHour = 23;
+  constexpr int kLastMinute = 59;
+  if (hour > kLastHour || minute > kLastMinute) throw base::Failure(base::ErrorNumber::typeMismatch);
+  day.hour = hour;
+  day.minute = minute;
+  return day;
+}
+
 base::DateTime momentOf(std::string_view line) {
   constexpr std::string_view kPattern = "00/00/0000   00:00";
-  constexpr int kHours = 24;
-  constexpr int kMinutes = 60;
   const bool isWritten = line.size() >= kKeyLength && std::equal(kPattern.begin(), kPattern.end(), line.begin(),
                                                                  [](char pattern, char c) { return fits(c, pattern); });
-  if (!isWritten) throw base::Failure(base::ErrorNumber::typeMismatch);
-  auto moment = existing(numberAt(line, 0, 2), numberAt(line, 3, 2), numberAt(line, 6, 4));
-  const int hour = numberAt(line, 13, 2);
-  const int minute = numberAt(line, 16, 2);
-  if (!moment || hour >= kHours || minute >= kMinutes) throw base::Failure(base::ErrorNumber::typeMismatch);
-  moment->hour = hour;
-  moment->minute = minute;
-  return *moment;
+  const auto day =
+      isWritten ? existing(numberAt(line, 0, 2), numberAt(line, 3, 2), numberAt(line, 6, 4)) : std::nullopt;
+  if (!day) throw base::Failure(base::ErrorNumber::typeMismatch);
+  return atTime(*day, numberAt(line, 13, 2), numberAt(line, 16, 2));
 }
 
 std::int64_t minutesBetween(const base::DateTime& from, const base::DateTime& to) {

@@ -10,7 +10,6 @@
 #include <utility>
 #include <vector>
 
-#include "base/failure.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "planner/appointment.h"
@@ -57,10 +56,6 @@ void set(base::ComboBox& box, std::string text) {
   box.selected = row == box.items.end() ? -1 : static_cast<int>(row - box.items.begin());
 }
 
-std::string filledUp(std::string digits, std::size_t width) {
-  return digits.insert(0, width - std::min(width, digits.size()), '0');
-}
-
 void keepToLimit(base::ComboBox& box, int limit) {
   if (valueOf(box) > limit) set(box, std::to_string(limit));
 }
@@ -100,7 +95,7 @@ void hint(PlannerWindow& window, std::string_view text) {
 
 // A list has one line for each appointment, whatever was pasted.
 std::string asOneLine(std::string_view text) {
-  std::string line = base::replaceAll(base::withWindowsLineEnds(text), base::kLineBreak, " ");
+  std::string line = base::inOneLine(text);
   std::replace(line.begin(), line.end(), '\t', ' ');
   return line;
 }
@@ -114,13 +109,6 @@ base::ComboBox* firstEmpty(PlannerWindow& window) {
   const auto isEmpty = [&](const Field& field) { return (window.*field.box).text.empty(); };
   const auto* const found = std::find_if(kFields.begin(), kFields.end(), isEmpty);
   return found == kFields.end() ? nullptr : &(window.*found->box);
-}
-
-base::DateTime withTime(base::DateTime date, const PlannerWindow& window) {
-  date.hour = valueOf(window.Stunden);
-  date.minute = valueOf(window.Minuten);
-  if (date.hour > 23 || date.minute > 59) throw base::Failure(base::ErrorNumber::typeMismatch);
-  return date;
 }
 
 // The same line may stand behind the new one, never in front of it. It is gone before the message, behind which the
@@ -154,7 +142,8 @@ void create(const PlannerParts& parts) {
     parts.platform.beep();
     return refuse(parts, "Keinen Text eingegeben!", window.TerminText);
   }
-  enter(parts, lineOf(keyOf(withTime(*date, window), parts.platform.dateFormat()), text));
+  const base::DateTime moment = atTime(*date, valueOf(window.Stunden), valueOf(window.Minuten));
+  enter(parts, lineOf(keyOf(moment, parts.platform.dateFormat()), text));
 }
 
 // True when nothing is typed, or what is typed may go.
@@ -171,10 +160,7 @@ bool mayDiscardText(const PlannerParts& parts) {
 void write(const PlannerParts& parts) { Schreibe_neue_Liste(parts.window, parts.paths.appointments()); }
 
 void makeOld(const PlannerParts& parts, int row) {
-  PlannerWindow& window = parts.window;
-  addSorted(window.List1.items, window.Liste.items[row]);
-  window.Liste.items.removeAt(row);
-  window.Liste.current = -1;
+  moveToOld(parts.window, row);
   write(parts);
 }
 
@@ -302,6 +288,9 @@ void closeWindow(const PlannerParts& parts) {
   window.keepsOpen = !mayLoseChanges(parts);
   showIndicator(parts);
 }
+
+// Whether the lists in memory are those that count, be the window hidden or not.
+bool isLoaded(const PlannerWindow& window) { return window.isOpen || window.Timer1.running; }
 
 template <typename Procedure>
 base::Wiring::Procedure reported(const PlannerParts& parts, std::string_view tag, Procedure procedure) {

@@ -1,5 +1,7 @@
-// What the planner shows before anything is done.
+// The planner's window.
 #include "planner/planner_window.h"
+
+#include "planner/appointment.h"
 
 namespace planner {
 
@@ -13,6 +15,11 @@ void followTab(PlannerWindow& window) {
   window.cmdMove.text = window.mnuMove.text = showsPresent ? "&Verschiebe zu Alte Termine" : "&Neu anlegen";
 }
 
-bool isLoaded(const PlannerWindow& window) { return window.isOpen || window.Timer1.running; }
+void moveToOld(PlannerWindow& window, int row) {
+  const int place = addSorted(window.List1.items, window.Liste.items[row]);
+  if (place <= window.List1.current) ++window.List1.current;
+  window.Liste.items.removeAt(row);
+  window.Liste.current = -1;
+}
 
 }  // namespace planner

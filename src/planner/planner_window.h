@@ -87,7 +87,8 @@ struct PlannerParts {
 /// What the command that moves appointments is called depends on the list it moves them from.
 void followTab(PlannerWindow& window);
 
-/// Whether the lists in memory are those that count, be the window hidden or not.
-[[nodiscard]] bool isLoaded(const PlannerWindow& window);
+/// A present appointment becomes an old one. None of the present ones is selected then; of the old ones it stays the
+/// same.
+void moveToOld(PlannerWindow& window, int row);
 
 }  // namespace planner

@@ -63,15 +63,9 @@ void announceMissed(const PlannerParts& parts, const std::string& line) {
   parts.platform.messageBox(message);
 }
 
-void moveToOld(PlannerWindow& window, int row) {
-  addSorted(window.List1.items, window.Liste.items[row]);
-  window.Liste.items.removeAt(row);
-}
-
 // What was announced before a line failed is moved all the same, or it would be announced again.
 void moveMarked(PlannerWindow& window, const std::vector<int>& marked) {
   for (auto row = marked.rbegin(); row != marked.rend(); ++row) moveToOld(window, *row);
-  window.Liste.current = -1;
 }
 
 void announceAllMissed(const PlannerParts& parts, std::vector<int>& marked) {
