@@ -22,13 +22,15 @@ constexpr int kTickMilliseconds = 5000;
 // While one announcement stands on the screen no other is made.
 class Announcing {
  public:
-  explicit Announcing(PlannerWindow& window) : window_(window) { window.isAnnouncing = true; }
-  ~Announcing() { window_.isAnnouncing = false; }
+  explicit Announcing(PlannerWindow& window)
+      : window_(window), wasAnnouncing_(std::exchange(window.isAnnouncing, true)) {}
+  ~Announcing() { window_.isAnnouncing = wasAnnouncing_; }
   Announcing(const Announcing&) = delete;
   Announcing& operator=(const Announcing&) = delete;
 
  private:
   PlannerWindow& window_;
+  const bool wasAnnouncing_;
 };
 
 std::string fixedChime(const base::Platform& platform) { return settings::defaultReminderSound(platform.systemRoot()); }
@@ -65,8 +67,12 @@ void announceMissed(const PlannerParts& parts, const std::string& line) {
 
 // What was announced before a line failed is moved all the same, or it would be announced again.
 void moveMarked(PlannerWindow& window, const std::vector<int>& marked) {
-  for (auto row = marked.rbegin(); row != marked.rend(); ++row) moveToOld(window, *row);
+  int moved = 0;
+  for (const int row : marked) moveToOld(window, row - moved++);
 }
+
+// When the desktop ends the program nobody has read what stands on the screen: it stays for the next check.
+bool isAnswered(const PlannerParts& parts) { return parts.window.mayAsk; }
 
 void announceAllMissed(const PlannerParts& parts, std::vector<int>& marked) {
   const base::DateTime now = parts.platform.now();
@@ -75,6 +81,7 @@ void announceAllMissed(const PlannerParts& parts, std::vector<int>& marked) {
     if (!isEarlier(momentOf(lines[row]), now)) continue;
     marked.push_back(row);
     announceMissed(parts, std::string(lines[row]));
+    if (!isAnswered(parts)) return marked.pop_back();
   }
 }
 
@@ -99,6 +106,7 @@ void announceAllDue(const PlannerParts& parts, const std::string& key) {
       continue;
     }
     announceDue(parts, std::string(lines[row]));
+    if (!isAnswered(parts)) return;
     moveToOld(parts.window, row);
     Schreibe_neue_Liste(parts.window, parts.paths.appointments());
     Liste_füllen(parts.window, parts.paths.appointments());
@@ -146,11 +154,10 @@ void Sound_stoppen(base::Platform& platform) {
 }
 
 void Alte_Einträge_löschen(const PlannerParts& parts) {
-  const bool wasAnnouncing = std::exchange(parts.window.isAnnouncing, true);
+  const Announcing announcing(parts.window);
   std::vector<int> marked;
   errors::reporting(parts.reporter, kCheckTag, [&] { announceAllMissed(parts, marked); });
   moveMarked(parts.window, marked);
-  parts.window.isAnnouncing = wasAnnouncing;
   showIndicator(parts);
 }
 
@@ -167,11 +174,14 @@ void readSwitches(const PlannerParts& parts) {
   parts.window.Check_Start.checked = isOn(parts.platform, "TermineBeimStart");
 }
 
+// The timer runs first: what falls due behind an announcement is one of the minutes that it missed. A file that cannot
+// be written does not keep it from watching.
 void checkAtStart(const PlannerParts& parts) {
   readSwitches(parts);
   if (!parts.window.Check_Start.checked) return;
-  readAndCheck(parts);
-  if (!parts.window.Liste.items.empty()) arm(parts.window, parts.platform);
+  arm(parts.window, parts.platform);
+  errors::reporting(parts.reporter, kCheckTag, [&] { readAndCheck(parts); });
+  if (parts.window.Liste.items.empty()) parts.window.Timer1 = {};
 }
 
 void arm(PlannerWindow& window, const base::Platform& platform) {

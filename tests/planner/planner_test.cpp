@@ -257,6 +257,27 @@ TEST(Planner, dueAppointmentsAreAnnouncedOnceAndNoneBehindAReminder) {
   EXPECT_NE(planner.file().find("3=" + line("25.12.2004   00:11", "d")), std::string::npos);
 }
 
+TEST(Planner, whatNobodyReadIsAnnouncedAgain) {
+  const TemporaryDirectory directory;
+  Planner planner(directory, "[Termine]\n0=" + line("24.12.2004   14:31", "a") +
+                                 "\n1=" + line("24.12.2004   14:31", "b") + "\n2=" + line("24.12.2004   14:33", "c"));
+  planner.open();
+  planner.close();
+  const std::string written = planner.file();
+  planner.clock(24, 14, 31);
+  planner.expectReminder("Termin am 24.12.2004 um 14:31 Uhr a", [&] { planner.planner.mayAsk = false; });
+  planner.tick();
+  EXPECT_EQ(planner.file(), written) << "the desktop has ended the program";
+
+  Planner later(directory);
+  later.platform.userSettings["TermineBeimStart"] = "1";
+  later.clock(24, 14, 32);
+  later.expectMissed("Termin am 24.12.2004 um 14:31 Uhr", "a");
+  later.expectMissed("Termin am 24.12.2004 um 14:31 Uhr", "b");
+  commands::checkAppointments(later.parts);
+  EXPECT_TRUE(later.planner.Timer1.running);
+}
+
 TEST(Planner, aBackupTakesWhatIsLoadedAndARestoreFillsItAnew) {
   const TemporaryDirectory directory;
   Planner planner(directory);
