@@ -4,20 +4,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <initializer_list>
+#include <algorithm>
+#include <utility>
 
 #include "ui/utf8.h"
 
 namespace ui {
 namespace {
-
-QString playerProgram() {
-  for (const char* const name : {"paplay", "pw-play", "aplay"}) {
-    QString found = QStandardPaths::findExecutable(QString::fromLatin1(name));
-    if (!found.isEmpty()) return found;
-  }
-  return {};
-}
 
 bool isWaveFile(const QString& path) {
   constexpr qint64 kHeaderLength = 12;
@@ -34,18 +27,26 @@ int cards() {
   return static_cast<int>(table.readAll().count("playback"));
 }
 
-// A sound server has devices that are no cards of this computer.
-bool hasServer() {
+bool hasServer(const char* socket) {
   const QString directory = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-  return !directory.isEmpty() && QFileInfo::exists(directory + QStringLiteral("/pulse/native"));
+  return !directory.isEmpty() && QFileInfo::exists(QDir(directory).filePath(QString::fromLatin1(socket)));
+}
+
+// Each plays on what the others do not: a server of its own, or the cards. Without that it would be silent.
+QString playerProgram() {
+  const std::pair<const char*, bool> players[] = {
+      {"paplay", hasServer("pulse/native")}, {"pw-play", hasServer("pipewire-0")}, {"aplay", cards() > 0}};
+  for (const auto& [name, hasDevice] : players) {
+    QString found = hasDevice ? QStandardPaths::findExecutable(QString::fromLatin1(name)) : QString();
+    if (!found.isEmpty()) return found;
+  }
+  return {};
 }
 
 }  // namespace
 
-int soundDevices() {
-  if (playerProgram().isEmpty()) return 0;
-  return cards() + (hasServer() ? 1 : 0);
-}
+// A server may have devices that are no cards of this computer.
+int soundDevices() { return playerProgram().isEmpty() ? 0 : std::max(cards(), 1); }
 
 bool SoundPlayer::open(const std::string& path) {
   const QString file = toQString(path);
