@@ -91,7 +91,7 @@ void Printing::preview(const base::PrintJob& job, QWidget* parent) {
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* device) {
     try {
       qttext::printPages(job, *device);
-    } catch (const base::Failure&) {
+    } catch (...) {
       failure = std::current_exception();
     }
   });
