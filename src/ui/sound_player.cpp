@@ -1,6 +1,7 @@
 // Wave files, played by a program of the sound system.
 #include "ui/sound_player.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
