@@ -1,6 +1,6 @@
 // The text container: a second text in a window of its own, which gathers the blocks that other commands write.
 //
-// It lives as long as the program. Neither is it saved by itself nor restored.
+// It lives as long as the program. Neither is it saved by itself nor restored; what a crash leaves of it is offered.
 #pragma once
 
 #include <string>

@@ -48,9 +48,11 @@ void saveByDialog(const DocumentParts& parts);
 /// The path of a file to write, with `suffix`; whether one that exists may be replaced is asked.
 std::string askForTarget(const base::FileQuestion& question, std::string_view suffix, base::Platform& platform);
 
+inline constexpr std::string_view kSaveQuestion = "Möchten Sie die Änderungen speichern?";
+
 /// Before unsaved changes are lost: Yes saves them, No lets them go. Cancelling is a Failure (cancelled), and so is a
 /// save that is left.
 void settleChanges(base::Platform& platform, const std::function<void()>& save,
-                   std::string_view question = "Möchten Sie die Änderungen speichern?");
+                   std::string_view question = kSaveQuestion);
 
 }  // namespace editor

@@ -1,4 +1,4 @@
-// The recovery copy.
+// A recovery copy.
 #include "editor/recovery.h"
 
 #include <unistd.h>
@@ -18,13 +18,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kStem = "Wiederherstellung-";
 constexpr std::string_view kSuffix = ".rtf";
 
 // The process in the name of a copy; nothing for another file.
-std::optional<pid_t> processOf(std::string_view name) {
-  if (!name.starts_with(kStem) || !name.ends_with(kSuffix)) return std::nullopt;
-  name.remove_prefix(kStem.size());
+std::optional<pid_t> processOf(std::string_view name, std::string_view stem) {
+  if (!name.starts_with(stem) || !name.ends_with(kSuffix)) return std::nullopt;
+  name.remove_prefix(stem.size());
   name.remove_suffix(kSuffix.size());
   pid_t process = 0;
   const auto read = std::from_chars(name.data(), name.data() + name.size(), process);
@@ -50,9 +49,10 @@ bool isRunning(pid_t process) {
 
 }  // namespace
 
-RecoveryCopy::RecoveryCopy(std::string directory)
+RecoveryCopy::RecoveryCopy(std::string directory, std::string stem)
     : directory_(std::move(directory)),
-      path_(base::joinPath(directory_, std::string(kStem) + std::to_string(::getpid()).append(kSuffix))) {}
+      stem_(std::move(stem)),
+      path_(base::joinPath(directory_, stem_ + std::to_string(::getpid()).append(kSuffix))) {}
 
 void RecoveryCopy::write(const base::RichText& text) const { base::replaceFile(path_, writeRtf(text.document())); }
 
@@ -62,7 +62,7 @@ bool RecoveryCopy::adopt() {
   fs::file_time_type newestTime;
   std::error_code error;
   for (fs::directory_iterator entry(directory_, error), end; !error && entry != end; entry.increment(error)) {
-    const auto process = processOf(entry->path().filename().string());
+    const auto process = processOf(entry->path().filename().string(), stem_);
     std::error_code ignored;
     const fs::file_time_type time = entry->last_write_time(ignored);
     const bool isLeft = process && !isRunning(*process);

@@ -1,7 +1,7 @@
-// The recovery copy: what is not saved yet lies beside the settings as RTF, for the start that follows a crash.
+// A recovery copy: a text that is not saved yet lies beside the settings as RTF, for the start that follows a crash.
 //
-// Its name bears the number of the process that writes it, so that two programs in one directory keep apart; a copy
-// whose process is gone was left behind. It goes with the process's clean end.
+// Its name tells which text it is, and bears the number of the process that writes it, so that two programs in one
+// directory keep apart; a copy whose process is gone was left behind. It goes with the process's clean end.
 #pragma once
 
 #include <optional>
@@ -13,7 +13,8 @@ namespace editor {
 
 class RecoveryCopy {
  public:
-  explicit RecoveryCopy(std::string directory);
+  /// Of the text whose copies are named by `stem` and the number of a process.
+  RecoveryCopy(std::string directory, std::string stem);
 
   [[nodiscard]] const std::string& path() const { return path_; }
 
@@ -37,6 +38,7 @@ class RecoveryCopy {
 
  private:
   std::string directory_;
+  std::string stem_;
   std::string path_;
   std::optional<std::uint64_t> writtenRevision_;
   bool isThere_ = false;

@@ -26,7 +26,7 @@ void wire(Program& program) {
                               .beforeBackup = [&program](const auto& kinds) { saveForBackup(program, kinds); },
                               .afterRestore = [&program](const auto& kinds) { readRestored(program, kinds); }});
   wiring.on(program.windows.main.tmrLoad, base::Event::tick, [&program] { loadBehindScreen(program); });
-  wiring.on(program.windows.main.tmrSicherung, base::Event::tick, [&program] { keepRecoveryCopy(program); });
+  wiring.on(program.windows.main.tmrSicherung, base::Event::tick, [&program] { keepRecoveryCopies(program); });
   wiring.on(program.windows.main, base::Event::closing, [&program] { unload(program); });
 }
 

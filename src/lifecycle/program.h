@@ -30,7 +30,8 @@ struct Program {
   frame::CalcResults results = {};
   editor::OpenDocument document = {};
   editor::OpenDocument containerDocument = {};
-  editor::RecoveryCopy recovery{paths.programDirectory};
+  editor::RecoveryCopy recovery{paths.programDirectory, "Wiederherstellung-"};
+  editor::RecoveryCopy containerRecovery{paths.programDirectory, "Wiederherstellung-Container-"};
   editor::Spelling spelling{platform, paths.ownWords()};
   std::string fileToOpen;  // once the program stands, as the command line asks
   Windows windows = {};

@@ -1,114 +1,162 @@
-// What protects a lettering that is not saved.
+// What protects texts that are not saved.
 #include "lifecycle/unsaved_work.h"
 
+#include <array>
+#include <exception>
+#include <string_view>
+#include <vector>
+
 #include "commands/file_commands.h"
+#include "commands/note_commands.h"
 
 namespace lifecycle {
 namespace {
 
-constexpr int kLookMilliseconds = 2000;  // what is not in the copy is never older than this and its writing
+constexpr int kLookMilliseconds = 2000;  // what is not in a copy is never older than this and its writing
 
-bool isUnsaved(const Program& program) { return editor::holdsUnsaved(program.document, program.windows.main.rtfText); }
+// A text that must not be lost.
+struct KeptText {
+  const editor::OpenDocument& document;
+  const base::RichText& text;
+  editor::RecoveryCopy& copy;
+  std::string_view saveQuestion;  // at the end of the program
+  void (*save)(Program& program);
+  std::string_view recoverQuestion;  // at the start that follows a crash
+  void (*show)(Program& program, const base::Document& recovered);
+};
 
-bool holdsContainerUnsaved(const Program& program) {
-  return editor::holdsUnsaved(program.containerDocument, program.windows.container.rtfTextC);
+std::array<KeptText, 2> keptTexts(Program& program) {
+  return {{{.document = program.document,
+            .text = program.windows.main.rtfText,
+            .copy = program.recovery,
+            .saveQuestion = editor::kSaveQuestion,
+            .save = [](Program& owner) { commands::SaveNow(partsOf(owner)); },
+            .recoverQuestion = "Soll der nicht gespeicherte Text wiederhergestellt werden?",
+            .show = [](Program& owner,
+                       const base::Document& recovered) { commands::showRecovered(partsOf(owner), recovered); }},
+           {.document = program.containerDocument,
+            .text = program.windows.container.rtfTextC,
+            .copy = program.containerRecovery,
+            .saveQuestion = "Möchten Sie die Änderungen im Text-Container speichern?",
+            .save = [](Program& owner) { editor::saveContainer(containerPartsOf(owner)); },
+            .recoverQuestion = "Soll der nicht gespeicherte Text im Text-Container wiederhergestellt werden?",
+            .show =
+                [](Program& owner, const base::Document& recovered) {
+                  commands::appendBlock(partsOf(owner), recovered);
+                  commands::showContainer(partsOf(owner));
+                }}}};
 }
+
+bool isUnsaved(const KeptText& kept) { return editor::holdsUnsaved(kept.document, kept.text); }
 
 constexpr const char* kNoCopy = "Keine Sicherungskopie: bitte speichern";
 
 void tellFailure(Program& program) {
-  program.recovery.fellBehind();
   program.windows.main.lblHinweis.text = kNoCopy;
   program.windows.main.lblHinweis.toolTip =
-      "Nach einem Absturz ginge der Text verloren, denn diese Datei lässt sich nicht schreiben: " +
-      program.recovery.path();
+      "Nach einem Absturz ginge Text verloren, denn dieser Ordner nimmt keine Sicherungskopie an: " +
+      program.paths.programDirectory;
 }
 
 void takeBackFailure(base::Label& hint) {
   if (hint.text == kNoCopy) hint.text.clear(), hint.toolTip.clear();
 }
 
+// Every text is tried, whatever becomes of the others; the last failure is the caller's.
+template <typename Texts, typename Procedure>
+void withEach(const Texts& texts, Procedure run) {
+  std::exception_ptr failure;
+  for (const KeptText& kept : texts) {
+    try {
+      run(kept);
+    } catch (const std::exception&) {
+      failure = std::current_exception();
+    }
+  }
+  if (failure) std::rethrow_exception(failure);
+}
+
+void write(const KeptText& kept) { kept.copy.write(kept.text); }
+
 // Asks, or fails as it is answered; true when the text may go.
-template <typename Question>
-bool isAnsweredFor(Program& program, Question ask) {
+bool isAnsweredFor(Program& program, const KeptText& kept) {
   bool isAnswered = false;
   errors::reporting(program.reporter, "MAIN-frmUnload", [&] {
-    ask();
+    editor::settleChanges(
+        program.platform, [&] { kept.save(program); }, kept.saveQuestion);
     isAnswered = true;
   });
   return isAnswered;
 }
 
-bool isDocumentAnsweredFor(Program& program) {
-  return isAnsweredFor(program, [&program] {
-    editor::settleChanges(program.platform, [&program] { commands::SaveNow(partsOf(program)); });
-  });
+base::Document readLeft(editor::RecoveryCopy& copy) {
+  try {
+    return copy.read();
+  } catch (const base::Failure&) {
+    copy.putAside();
+    throw;
+  }
 }
 
-bool isContainerAnsweredFor(Program& program) {
-  return isAnsweredFor(program, [&program] {
-    editor::settleChanges(
-        program.platform, [&program] { editor::saveContainer(containerPartsOf(program)); },
-        "Möchten Sie die Änderungen im Text-Container speichern?");
-  });
+void offerRecovered(Program& program, const KeptText& kept) {
+  if (!kept.copy.adopt()) return;
+  const base::Document left = readLeft(kept.copy);
+  const base::MessageAnswer answer = program.platform.messageBox(
+      {.text = std::string("Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n").append(kept.recoverQuestion),
+       .icon = base::MessageIcon::question,
+       .buttons = base::MessageButtons::yesNo});
+  if (!program.windows.main.mayAsk) return;  // nobody answered: the next start asks again
+  if (answer != base::MessageAnswer::yes) return kept.copy.putAside();
+  kept.show(program, left);
+  kept.copy.keepsUpWith(kept.text);
 }
 
 }  // namespace
 
-void keepRecoveryCopy(Program& program) {
-  const base::RichText& text = program.windows.main.rtfText;
+void keepRecoveryCopies(Program& program) {
   const std::optional<bool> succeeded = program.platform.asideSucceeded();
   if (!succeeded) return;
-  const bool isNeeded = isUnsaved(program);
-  isNeeded && !*succeeded ? tellFailure(program) : takeBackFailure(program.windows.main.lblHinweis);
-  if (!isNeeded) return program.recovery.remove();
-  if (!program.recovery.isBehind(text)) return;
-  if (program.platform.runAside([&program, &text] { program.recovery.write(text); }))
-    program.recovery.keepsUpWith(text);
+  std::vector<KeptText> behind;
+  bool isFailing = false;
+  for (const KeptText& kept : keptTexts(program)) {
+    if (!isUnsaved(kept)) {
+      kept.copy.remove();
+      continue;
+    }
+    if (!*succeeded) isFailing = true, kept.copy.fellBehind();
+    if (kept.copy.isBehind(kept.text)) behind.push_back(kept);
+  }
+  isFailing ? tellFailure(program) : takeBackFailure(program.windows.main.lblHinweis);
+  if (behind.empty() || !program.platform.runAside([&behind] { withEach(behind, write); })) return;
+  for (const KeptText& kept : behind) kept.copy.keepsUpWith(kept.text);
 }
 
 void keepForNextStart(Program& program) {
   program.windows.main.tmrSicherung.running = false;
   program.platform.awaitAside();
-  if (isUnsaved(program)) program.recovery.write(program.windows.main.rtfText);
+  withEach(keptTexts(program), [](const KeptText& kept) {
+    if (isUnsaved(kept)) write(kept);
+  });
 }
 
 bool mayLeave(Program& program) {
   const bool mayAsk = program.windows.main.mayAsk;
-  if (isUnsaved(program)) {
-    if (!mayAsk) return true;  // it is kept for the next start
-    if (!isDocumentAnsweredFor(program)) return false;
+  const auto texts = keptTexts(program);
+  for (const KeptText& kept : texts) {
+    if (mayAsk && isUnsaved(kept) && !isAnsweredFor(program, kept)) return false;
   }
-  if (mayAsk && holdsContainerUnsaved(program) && !isContainerAnsweredFor(program)) return false;
-  // The copy was written on behind the question, too.
+  // The copies were written on behind the questions, too.
   program.windows.main.tmrSicherung.running = false;
   program.platform.awaitAside();
-  program.recovery.remove();
+  for (const KeptText& kept : texts) {
+    if (mayAsk || !isUnsaved(kept)) kept.copy.remove();
+  }
   return true;
 }
 
 void offerRecovered(Program& program) {
   program.windows.main.tmrSicherung = {.running = true, .intervalMilliseconds = kLookMilliseconds};
-  if (!program.recovery.adopt()) return;
-  base::Document left;
-  try {
-    left = program.recovery.read();
-  } catch (const base::Failure&) {
-    program.recovery.putAside();
-    throw;
-  }
-  const base::MessageAnswer answer =
-      program.platform.messageBox({.text = "Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n"
-                                           "Soll der nicht gespeicherte Text wiederhergestellt werden?",
-                                   .icon = base::MessageIcon::question,
-                                   .buttons = base::MessageButtons::yesNo});
-  if (!program.windows.main.mayAsk) return;  // nobody answered: the next start asks again
-  if (answer == base::MessageAnswer::yes) {
-    commands::showRecovered(partsOf(program), left);
-    program.recovery.keepsUpWith(program.windows.main.rtfText);
-  } else {
-    program.recovery.putAside();
-  }
+  withEach(keptTexts(program), [&program](const KeptText& kept) { offerRecovered(program, kept); });
 }
 
 }  // namespace lifecycle

@@ -175,28 +175,40 @@ TEST_F(Files, TheEndAsksForUnsavedWorkAndStaysWhenItIsNotKept) {
   EXPECT_EQ(inFile("Huber.rtf"), "Huber");
 }
 
-TEST_F(Files, TheRecoveryCopyFollowsTheTextAndGoesWithACleanEnd) {
-  const std::string copy = std::filesystem::path(session.program.recovery.path()).filename().string();
+TEST_F(Files, TheRecoveryCopiesFollowTheirTextsAndGoWithACleanEnd) {
+  const auto nameOf = [](const editor::RecoveryCopy& of) {
+    return std::filesystem::path(of.path()).filename().string();
+  };
+  const std::string copy = nameOf(session.program.recovery);
+  const std::string containersCopy = nameOf(session.program.containerRecovery);
+  base::RichText& container = session.program.windows.container.rtfTextC;
   const auto tick = [&] { session.program.wiring.fire(session.window.tmrSicherung, base::Event::tick); };
   tick();
   EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
   session.write("Huber");
+  container.replaceSelection("Notiz");
   tick();
   EXPECT_EQ(inFile(copy), "Huber");
+  EXPECT_EQ(inFile(containersCopy), "Notiz");
   EXPECT_TRUE(session.window.tmrSicherung.running);
+  editor::clearContainer(session.program.windows.container, session.program.containerUndo);
   std::filesystem::remove(directory.path(copy));
   session.platform.asideFails = true;
   tick();
   EXPECT_EQ(inFile(copy), "Huber") << "what failed is tried again";
+  EXPECT_FALSE(std::filesystem::exists(directory.path(containersCopy)));
   session.platform.asideFails = false;
   saveAs("Huber");
   tick();
   EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
   session.write("Meier");
+  container.replaceSelection("Notiz");
   tick();
   session.platform.expectMessage(kSaveQuestion, MessageAnswer::no);
+  session.platform.expectAnyMessage(MessageAnswer::no);
   session.end();
-  EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
+  EXPECT_FALSE(std::filesystem::exists(directory.path(copy)) ||
+               std::filesystem::exists(directory.path(containersCopy)));
 }
 
 TEST_F(Files, TheManualIsTheShopsOwnOrOurs) {
@@ -228,29 +240,33 @@ TEST_F(Files, OfSeveralCopiesTheNewestIsTakenWhoseProgramIsGone) {
 
 // Process 1 is never this program.
 TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
-  const base::Message offer{.text =
-                                "Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n"
-                                "Soll der nicht gespeicherte Text wiederhergestellt werden?",
-                            .icon = base::MessageIcon::question,
-                            .buttons = base::MessageButtons::yesNo};
-  for (const MessageAnswer answer : {MessageAnswer::yes, MessageAnswer::no}) {
+  const auto offer = [](const std::string& question) {
+    return base::Message{.text = "Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n" + question,
+                         .icon = base::MessageIcon::question,
+                         .buttons = base::MessageButtons::yesNo};
+  };
+  for (const bool isWanted : {true, false}) {
     directory.write("Wiederherstellung-1.rtf", "{\\rtf1 Huber}");
+    directory.write("Wiederherstellung-Container-1.rtf", "{\\rtf1 Notiz}");
     support::Session next(directory);
+    const editor::ContainerWindow& container = next.program.windows.container;
+    const auto answer = [](bool isYes) { return isYes ? MessageAnswer::yes : MessageAnswer::no; };
     next.platform.userSettings["Version"] = "1.4";
-    next.platform.expectMessage(offer, answer);
+    next.platform.expectMessage(offer("Soll der nicht gespeicherte Text wiederhergestellt werden?"), answer(isWanted));
+    next.platform.expectMessage(offer("Soll der nicht gespeicherte Text im Text-Container wiederhergestellt werden?"),
+                                answer(!isWanted));
     next.start();
-    const bool isWanted = answer == MessageAnswer::yes;
     EXPECT_EQ(next.document.plainText(), isWanted ? "Huber" : "");
+    EXPECT_EQ(container.rtfTextC.plainText(), isWanted ? "" : "Notiz");
+    EXPECT_EQ(next.window.mnuContainerLook.enabled, !isWanted);
+    EXPECT_EQ(inFile(isWanted ? "Verworfen-1.rtf" : "Verworfen-2.rtf"), isWanted ? "Notiz" : "Huber");
     EXPECT_FALSE(std::filesystem::exists(directory.path("Wiederherstellung-1.rtf")));
-    EXPECT_EQ(inFile(isWanted ? next.program.recovery.path().substr(directory.path("").size() + 1)
-                              : std::string("Verworfen-1.rtf")),
-              "Huber");
-    if (!isWanted) continue;
-    // Nobody can be asked: the copy stays for the next start.
+    // Nobody can be asked: what is not saved stays for the next start.
     next.window.mayAsk = false;
     next.end();
-    EXPECT_TRUE(std::filesystem::exists(next.program.recovery.path()));
-    std::filesystem::remove(next.program.recovery.path());
+    for (const auto* const copy : {&next.program.recovery, &next.program.containerRecovery}) {
+      EXPECT_EQ(std::filesystem::remove(copy->path()), (copy == &next.program.recovery) == isWanted);
+    }
   }
 }
 
