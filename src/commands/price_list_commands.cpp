@@ -32,9 +32,7 @@ void selectHeight(base::ComboBox& heights, const std::string& former) {
   heights.select(found == heights.items.end() ? 0 : static_cast<int>(found - heights.items.begin()));
 }
 
-void editPrices(const MainParts& parts) {
-  if (pricelists::editPriceList(editorOf(parts))) readPricesAgain(parts);
-}
+void editPrices(const MainParts& parts) { editRecoveredPrices(parts, {}); }
 
 void priceRollGoods(const MainParts& parts) { pricelists::showRollGoods(goodsOf(parts)); }
 
@@ -45,6 +43,14 @@ void noteRollGoods(const MainParts& parts) {
 }
 
 }  // namespace
+
+void editRecoveredPrices(const MainParts& parts, const std::string& recovered) {
+  if (pricelists::editPriceList(editorOf(parts), recovered)) readPricesAgain(parts);
+}
+
+void showRecoveredFoils(const MainParts& parts, const std::string& recovered) {
+  pricelists::showRollGoods(goodsOf(parts), recovered);
+}
 
 void EditDatabase(const MainParts& parts) {
   base::tagged("MAIN-EditDatabase", [&parts] { calc::LoadPriceDatabase(parts.window, parts.paths.priceDatabase()); });

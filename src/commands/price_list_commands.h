@@ -1,11 +1,17 @@
 // The windows of price lists, what opens them from the main window and what follows them there.
 #pragma once
 
+#include <string>
+
 #include "commands/main_parts.h"
 
 namespace commands {
 
 void wirePriceLists(base::Wiring& wiring, const MainParts& parts);
+
+/// Open the window of a list with `recovered` rows in place of the stored ones; the editor is waited for.
+void editRecoveredPrices(const MainParts& parts, const std::string& recovered);
+void showRecoveredFoils(const MainParts& parts, const std::string& recovered);
 
 /// Reads the price database again after it was edited; the selection is not restored.
 void EditDatabase(const MainParts& parts);

@@ -10,21 +10,17 @@
 
 #include "base/file_replacement.h"
 #include "base/files.h"
-#include "editor/document_file.h"
-#include "editor/rtf_writer.h"
 
 namespace editor {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kSuffix = ".rtf";
-
 // The process in the name of a copy; nothing for another file.
-std::optional<pid_t> processOf(std::string_view name, std::string_view stem) {
-  if (!name.starts_with(stem) || !name.ends_with(kSuffix)) return std::nullopt;
+std::optional<pid_t> processOf(std::string_view name, std::string_view stem, std::string_view suffix) {
+  if (!name.starts_with(stem) || !name.ends_with(suffix)) return std::nullopt;
   name.remove_prefix(stem.size());
-  name.remove_suffix(kSuffix.size());
+  name.remove_suffix(suffix.size());
   pid_t process = 0;
   const auto read = std::from_chars(name.data(), name.data() + name.size(), process);
   const bool isWhole = read.ec == std::errc() && read.ptr == name.data() + name.size();
@@ -49,12 +45,13 @@ bool isRunning(pid_t process) {
 
 }  // namespace
 
-RecoveryCopy::RecoveryCopy(std::string directory, std::string stem)
+RecoveryCopy::RecoveryCopy(std::string directory, std::string stem, std::string suffix)
     : directory_(std::move(directory)),
       stem_(std::move(stem)),
-      path_(base::joinPath(directory_, stem_ + std::to_string(::getpid()).append(kSuffix))) {}
+      suffix_(std::move(suffix)),
+      path_(base::joinPath(directory_, stem_ + std::to_string(::getpid()).append(suffix_))) {}
 
-void RecoveryCopy::write(const base::RichText& text) const { base::replaceFile(path_, writeRtf(text.document())); }
+void RecoveryCopy::write(std::string_view bytes) const { base::replaceFile(path_, bytes); }
 
 // Renaming decides between two programs that start at the same time.
 bool RecoveryCopy::adopt() {
@@ -62,7 +59,7 @@ bool RecoveryCopy::adopt() {
   fs::file_time_type newestTime;
   std::error_code error;
   for (fs::directory_iterator entry(directory_, error), end; !error && entry != end; entry.increment(error)) {
-    const auto process = processOf(entry->path().filename().string(), stem_);
+    const auto process = processOf(entry->path().filename().string(), stem_, suffix_);
     std::error_code ignored;
     const fs::file_time_type time = entry->last_write_time(ignored);
     const bool isLeft = process && !isRunning(*process);
@@ -74,17 +71,17 @@ bool RecoveryCopy::adopt() {
   return !error;
 }
 
-base::Document RecoveryCopy::read() const {
-  const std::optional<std::string> bytes = base::readFile(path_);
+std::string RecoveryCopy::read() const {
+  std::optional<std::string> bytes = base::readFile(path_);
   if (!bytes) throw base::fileFailure(base::ErrorNumber::fileNotFound, path_);
-  return readDocumentFile(*bytes);
+  return *std::move(bytes);
 }
 
 void RecoveryCopy::putAside() {
   std::error_code ignored;
   std::string aside;
   for (int number = 1; number == 1 || fs::exists(aside, ignored); ++number) {
-    aside = base::joinPath(directory_, "Verworfen-" + std::to_string(number).append(kSuffix));
+    aside = base::joinPath(directory_, "Verworfen-" + std::to_string(number).append(suffix_));
   }
   fs::rename(path_, aside, ignored);
 }

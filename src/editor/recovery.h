@@ -1,37 +1,37 @@
-// A recovery copy: a text that is not saved yet lies beside the settings as RTF, for the start that follows a crash.
+// A recovery copy: work that is not saved yet lies beside the settings, for the start that follows a crash.
 //
-// Its name tells which text it is, and bears the number of the process that writes it, so that two programs in one
+// Its name tells which work it is, and bears the number of the process that writes it, so that two programs in one
 // directory keep apart; a copy whose process is gone was left behind. It goes with the process's clean end.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
-
-#include "base/rich_text.h"
+#include <string_view>
 
 namespace editor {
 
 class RecoveryCopy {
  public:
-  /// Of the text whose copies are named by `stem` and the number of a process.
-  RecoveryCopy(std::string directory, std::string stem);
+  /// Of the work whose copies are named by `stem`, the number of a process and `suffix`.
+  RecoveryCopy(std::string directory, std::string stem, std::string suffix);
 
   [[nodiscard]] const std::string& path() const { return path_; }
 
-  /// The text changed since it was written last.
-  [[nodiscard]] bool isBehind(const base::RichText& text) const { return writtenRevision_ != text.revision(); }
+  /// The work changed since it was written last.
+  [[nodiscard]] bool isBehind(std::uint64_t revision) const { return writtenRevision_ != revision; }
   /// What was to be written has failed.
   void fellBehind() { writtenRevision_.reset(); }
-  /// `text` as it is now has been, or is being, written.
-  void keepsUpWith(const base::RichText& text) { writtenRevision_ = text.revision(), isThere_ = true; }
-  /// Replaces the copy by `text`; a failure is the caller's.
-  void write(const base::RichText& text) const;
+  /// The work as it is at `revision` has been, or is being, written.
+  void keepsUpWith(std::uint64_t revision) { writtenRevision_ = revision, isThere_ = true; }
+  /// Replaces the copy by `bytes`; a failure is the caller's.
+  void write(std::string_view bytes) const;
 
   /// Takes the newest copy that a process left behind as this one's own; nothing when there is none.
   bool adopt();
   /// What the copy holds.
-  [[nodiscard]] base::Document read() const;
-  /// Puts an adopted copy aside under the first free name "Verworfen-1.rtf", "Verworfen-2.rtf", …
+  [[nodiscard]] std::string read() const;
+  /// Puts an adopted copy aside under the first free name "Verworfen-1", "Verworfen-2", …
   void putAside();
   /// There is nothing to recover any more.
   void remove();
@@ -39,6 +39,7 @@ class RecoveryCopy {
  private:
   std::string directory_;
   std::string stem_;
+  std::string suffix_;
   std::string path_;
   std::optional<std::uint64_t> writtenRevision_;
   bool isThere_ = false;

@@ -30,8 +30,10 @@ struct Program {
   frame::CalcResults results = {};
   editor::OpenDocument document = {};
   editor::OpenDocument containerDocument = {};
-  editor::RecoveryCopy recovery{paths.programDirectory, "Wiederherstellung-"};
-  editor::RecoveryCopy containerRecovery{paths.programDirectory, "Wiederherstellung-Container-"};
+  editor::RecoveryCopy recovery{paths.programDirectory, "Wiederherstellung-", ".rtf"};
+  editor::RecoveryCopy containerRecovery{paths.programDirectory, "Wiederherstellung-Container-", ".rtf"};
+  editor::RecoveryCopy foilRecovery{paths.programDirectory, "Wiederherstellung-Folien-", ".pdb"};
+  editor::RecoveryCopy priceRecovery{paths.programDirectory, "Wiederherstellung-Preise-", ".pdb"};
   editor::Spelling spelling{platform, paths.ownWords()};
   std::string fileToOpen;  // once the program stands, as the command line asks
   Windows windows = {};

@@ -1,60 +1,101 @@
-// What protects texts that are not saved.
+// What protects work that is not saved.
 #include "lifecycle/unsaved_work.h"
 
 #include <array>
+#include <cstdint>
 #include <exception>
+#include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "commands/file_commands.h"
 #include "commands/note_commands.h"
+#include "commands/price_list_commands.h"
+#include "editor/document_file.h"
+#include "editor/rtf_writer.h"
 
 namespace lifecycle {
 namespace {
 
 constexpr int kLookMilliseconds = 2000;  // what is not in a copy is never older than this and its writing
 
-// A text that must not be lost.
-struct KeptText {
-  const editor::OpenDocument& document;
-  const base::RichText& text;
+// Work that must not be lost.
+struct KeptWork {
   editor::RecoveryCopy& copy;
-  std::string_view saveQuestion;  // at the end of the program
-  void (*save)(Program& program);
-  std::string_view recoverQuestion;  // at the start that follows a crash
-  void (*show)(Program& program, const base::Document& recovered);
+  std::function<bool()> isUnsaved;
+  std::function<std::uint64_t()> revision;
+  std::function<std::string()> bytes;
+  std::string_view recoverQuestion = {};
+  std::function<void(const std::string& recovered)> show = {};
+  std::function<void()> settle = {};  // asks before it is let go; what has none has a window that asks as it closes
 };
 
-std::array<KeptText, 2> keptTexts(Program& program) {
-  return {{{.document = program.document,
-            .text = program.windows.main.rtfText,
-            .copy = program.recovery,
-            .saveQuestion = editor::kSaveQuestion,
-            .save = [](Program& owner) { commands::SaveNow(partsOf(owner)); },
-            .recoverQuestion = "Soll der nicht gespeicherte Text wiederhergestellt werden?",
-            .show = [](Program& owner,
-                       const base::Document& recovered) { commands::showRecovered(partsOf(owner), recovered); }},
-           {.document = program.containerDocument,
-            .text = program.windows.container.rtfTextC,
-            .copy = program.containerRecovery,
-            .saveQuestion = "Möchten Sie die Änderungen im Text-Container speichern?",
-            .save = [](Program& owner) { editor::saveContainer(containerPartsOf(owner)); },
-            .recoverQuestion = "Soll der nicht gespeicherte Text im Text-Container wiederhergestellt werden?",
-            .show =
-                [](Program& owner, const base::Document& recovered) {
-                  commands::appendBlock(partsOf(owner), recovered);
-                  commands::showContainer(partsOf(owner));
-                }}}};
+KeptWork keptText(const editor::OpenDocument& document, const base::RichText& text, editor::RecoveryCopy& copy) {
+  return {.copy = copy,
+          .isUnsaved = [&] { return editor::holdsUnsaved(document, text); },
+          .revision = [&] { return text.revision(); },
+          .bytes = [&] { return editor::writeRtf(text.document()); }};
 }
 
-bool isUnsaved(const KeptText& kept) { return editor::holdsUnsaved(kept.document, kept.text); }
+KeptWork keptRows(const pricelists::PriceTableWindow& window, const calc::PriceList& list, editor::RecoveryCopy& copy) {
+  return {.copy = copy,
+          .isUnsaved = [&] { return pricelists::holdsUnsavedRows(window); },
+          .revision = [&] { return pricelists::revision(window); },
+          .bytes = [&] { return pricelists::rowsAsFile(window, list); }};
+}
+
+KeptWork keptLettering(Program& program) {
+  KeptWork work = keptText(program.document, program.windows.main.rtfText, program.recovery);
+  work.recoverQuestion = "Soll der nicht gespeicherte Text wiederhergestellt werden?";
+  work.show = [&](const std::string& recovered) {
+    commands::showRecovered(partsOf(program), editor::readDocumentFile(recovered));
+  };
+  work.settle = [&] { editor::settleChanges(program.platform, [&] { commands::SaveNow(partsOf(program)); }); };
+  return work;
+}
+
+KeptWork keptContainer(Program& program) {
+  KeptWork work = keptText(program.containerDocument, program.windows.container.rtfTextC, program.containerRecovery);
+  work.recoverQuestion = "Soll der nicht gespeicherte Text im Text-Container wiederhergestellt werden?";
+  work.show = [&](const std::string& recovered) {
+    commands::appendBlock(partsOf(program), editor::readDocumentFile(recovered));
+    commands::showContainer(partsOf(program));
+  };
+  work.settle = [&] {
+    editor::settleChanges(
+        program.platform, [&] { editor::saveContainer(containerPartsOf(program)); },
+        "Möchten Sie die Änderungen im Text-Container speichern?");
+  };
+  return work;
+}
+
+KeptWork keptFoils(Program& program) {
+  KeptWork work = keptRows(program.windows.rollGoods, pricelists::kFoilList, program.foilRecovery);
+  work.recoverQuestion = "Sollen die nicht gespeicherten Änderungen an der Folienliste wiederhergestellt werden?";
+  work.show = [&](const std::string& recovered) { commands::showRecoveredFoils(partsOf(program), recovered); };
+  return work;
+}
+
+KeptWork keptPrices(Program& program) {
+  KeptWork work = keptRows(program.windows.priceEditor, calc::kCapHeights, program.priceRecovery);
+  work.recoverQuestion = "Sollen die nicht gespeicherten Änderungen an der Preisliste wiederhergestellt werden?";
+  work.show = [&](const std::string& recovered) { commands::editRecoveredPrices(partsOf(program), recovered); };
+  return work;
+}
+
+// In the order in which each is offered: the editor of the price list, which is waited for, comes last.
+std::array<KeptWork, 4> keptWork(Program& program) {
+  return {keptLettering(program), keptContainer(program), keptFoils(program), keptPrices(program)};
+}
 
 constexpr const char* kNoCopy = "Keine Sicherungskopie: bitte speichern";
 
 void tellFailure(Program& program) {
   program.windows.main.lblHinweis.text = kNoCopy;
   program.windows.main.lblHinweis.toolTip =
-      "Nach einem Absturz ginge Text verloren, denn dieser Ordner nimmt keine Sicherungskopie an: " +
+      "Nach einem Absturz ginge verloren, was nicht gespeichert ist, denn dieser Ordner nimmt keine Sicherungskopie "
+      "an: " +
       program.paths.programDirectory;
 }
 
@@ -62,11 +103,11 @@ void takeBackFailure(base::Label& hint) {
   if (hint.text == kNoCopy) hint.text.clear(), hint.toolTip.clear();
 }
 
-// Every text is tried, whatever becomes of the others; the last failure is the caller's.
-template <typename Texts, typename Procedure>
-void withEach(const Texts& texts, Procedure run) {
+// Each is tried, whatever becomes of the others; the last failure is the caller's.
+template <typename Works, typename Procedure>
+void withEach(const Works& works, Procedure run) {
   std::exception_ptr failure;
-  for (const KeptText& kept : texts) {
+  for (const KeptWork& kept : works) {
     try {
       run(kept);
     } catch (const std::exception&) {
@@ -76,20 +117,19 @@ void withEach(const Texts& texts, Procedure run) {
   if (failure) std::rethrow_exception(failure);
 }
 
-void write(const KeptText& kept) { kept.copy.write(kept.text); }
+void write(const KeptWork& kept) { kept.copy.write(kept.bytes()); }
 
-// Asks, or fails as it is answered; true when the text may go.
-bool isAnsweredFor(Program& program, const KeptText& kept) {
+// Asks, or fails as it is answered; true when the work may go.
+bool isAnsweredFor(Program& program, const KeptWork& kept) {
   bool isAnswered = false;
   errors::reporting(program.reporter, "MAIN-frmUnload", [&] {
-    editor::settleChanges(
-        program.platform, [&] { kept.save(program); }, kept.saveQuestion);
+    kept.settle();
     isAnswered = true;
   });
   return isAnswered;
 }
 
-base::Document readLeft(editor::RecoveryCopy& copy) {
+std::string readLeft(editor::RecoveryCopy& copy) {
   try {
     return copy.read();
   } catch (const base::Failure&) {
@@ -98,17 +138,17 @@ base::Document readLeft(editor::RecoveryCopy& copy) {
   }
 }
 
-void offerRecovered(Program& program, const KeptText& kept) {
+void offerRecovered(Program& program, const KeptWork& kept) {
   if (!kept.copy.adopt()) return;
-  const base::Document left = readLeft(kept.copy);
+  const std::string left = readLeft(kept.copy);
   const base::MessageAnswer answer = program.platform.messageBox(
       {.text = std::string("Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n").append(kept.recoverQuestion),
        .icon = base::MessageIcon::question,
        .buttons = base::MessageButtons::yesNo});
   if (!program.windows.main.mayAsk) return;  // nobody answered: the next start asks again
   if (answer != base::MessageAnswer::yes) return kept.copy.putAside();
-  kept.show(program, left);
-  kept.copy.keepsUpWith(kept.text);
+  kept.show(left);
+  kept.copy.keepsUpWith(kept.revision());
 }
 
 }  // namespace
@@ -116,47 +156,47 @@ void offerRecovered(Program& program, const KeptText& kept) {
 void keepRecoveryCopies(Program& program) {
   const std::optional<bool> succeeded = program.platform.asideSucceeded();
   if (!succeeded) return;
-  std::vector<KeptText> behind;
+  std::vector<KeptWork> behind;
   bool isFailing = false;
-  for (const KeptText& kept : keptTexts(program)) {
-    if (!isUnsaved(kept)) {
+  for (const KeptWork& kept : keptWork(program)) {
+    if (!kept.isUnsaved()) {
       kept.copy.remove();
       continue;
     }
     if (!*succeeded) isFailing = true, kept.copy.fellBehind();
-    if (kept.copy.isBehind(kept.text)) behind.push_back(kept);
+    if (kept.copy.isBehind(kept.revision())) behind.push_back(kept);
   }
   isFailing ? tellFailure(program) : takeBackFailure(program.windows.main.lblHinweis);
   if (behind.empty() || !program.platform.runAside([&behind] { withEach(behind, write); })) return;
-  for (const KeptText& kept : behind) kept.copy.keepsUpWith(kept.text);
+  for (const KeptWork& kept : behind) kept.copy.keepsUpWith(kept.revision());
 }
 
 void keepForNextStart(Program& program) {
   program.windows.main.tmrSicherung.running = false;
   program.platform.awaitAside();
-  withEach(keptTexts(program), [](const KeptText& kept) {
-    if (isUnsaved(kept)) write(kept);
+  withEach(keptWork(program), [](const KeptWork& kept) {
+    if (kept.isUnsaved()) write(kept);
   });
 }
 
 bool mayLeave(Program& program) {
   const bool mayAsk = program.windows.main.mayAsk;
-  const auto texts = keptTexts(program);
-  for (const KeptText& kept : texts) {
-    if (mayAsk && isUnsaved(kept) && !isAnsweredFor(program, kept)) return false;
+  const auto works = keptWork(program);
+  for (const KeptWork& kept : works) {
+    if (mayAsk && kept.settle && kept.isUnsaved() && !isAnsweredFor(program, kept)) return false;
   }
   // The copies were written on behind the questions, too.
   program.windows.main.tmrSicherung.running = false;
   program.platform.awaitAside();
-  for (const KeptText& kept : texts) {
-    if (mayAsk || !isUnsaved(kept)) kept.copy.remove();
+  for (const KeptWork& kept : works) {
+    if (mayAsk || !kept.isUnsaved()) kept.copy.remove();
   }
   return true;
 }
 
 void offerRecovered(Program& program) {
   program.windows.main.tmrSicherung = {.running = true, .intervalMilliseconds = kLookMilliseconds};
-  withEach(keptTexts(program), [&program](const KeptText& kept) { offerRecovered(program, kept); });
+  withEach(keptWork(program), [&program](const KeptWork& kept) { offerRecovered(program, kept); });
 }
 
 }  // namespace lifecycle

@@ -30,8 +30,8 @@ PriceTable priceEditor(PriceEditorWindow& window, CsvImportWindow& csvImport, co
   return {window, kPriceList, csvImport, paths, rates, platform, reporter};
 }
 
-bool editPriceList(const PriceTable& editor) {
-  openPriceTable(editor);
+bool editPriceList(const PriceTable& editor, const std::string& recovered) {
+  openPriceTable(editor, recovered);
   editor.window.txtVersalie.wantsFocus = true;
   editor.platform.showModal(editor.window);
   return editor.window.isSaved;

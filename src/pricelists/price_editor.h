@@ -1,6 +1,8 @@
 // The editor of the price list: cap heights and the price of one character of each.
 #pragma once
 
+#include <string>
+
 #include "pricelists/price_table.h"
 
 namespace pricelists {
@@ -13,7 +15,8 @@ struct PriceEditorWindow : PriceTableWindow {
 PriceTable priceEditor(PriceEditorWindow& window, CsvImportWindow& csvImport, const settings::Paths& paths,
                        const settings::Rates& rates, base::Platform& platform, errors::Reporter& reporter);
 
-/// Opens the editor and waits until it is closed; true when the list was saved.
-bool editPriceList(const PriceTable& editor);
+/// Opens the editor, with `recovered` rows if there are any, and waits until it is closed; true when the list was
+/// saved.
+bool editPriceList(const PriceTable& editor, const std::string& recovered = {});
 
 }  // namespace pricelists

@@ -25,10 +25,6 @@ constexpr int kRefreshMilliseconds = 250;
 constexpr std::string_view kInsertCaption = "&Einfügen";
 constexpr std::string_view kChangeCaption = "&Ändern";
 
-std::uint64_t revision(const PriceTableWindow& window) {
-  return window.List1.items.revision() + window.List2.items.revision();
-}
-
 void showPosition(PriceTableWindow& window) {
   window.Label3.text =
       "Eintrag: " + std::to_string(selectedRow(window) + 1) + "/" + std::to_string(window.List1.items.size());
@@ -102,6 +98,7 @@ void insertAt(PriceTableWindow& window, int row, PriceRow added) {
 
 constexpr std::string_view kFull = "Die Liste ist voll";
 constexpr std::string_view kNoRow = "Bitte eine Zeile auswählen";
+constexpr std::string_view kNotSaved = "Noch nicht gespeichert";
 
 void add(const PriceTable& table) {
   PriceTableWindow& window = table.window;
@@ -158,6 +155,11 @@ void removeSelected(const PriceTable& table) {
   select(table, row - 1);
 }
 
+void clearRows(PriceTableWindow& window) {
+  window.List1.clear();
+  window.List2.clear();
+}
+
 void clearAll(const PriceTable& table) {
   PriceTableWindow& window = table.window;
   if (window.List1.items.empty()) return;
@@ -167,8 +169,7 @@ void clearAll(const PriceTable& table) {
                                                  .icon = base::MessageIcon::question,
                                                  .buttons = base::MessageButtons::yesNo});
   if (answer != base::MessageAnswer::yes) return;
-  window.List1.clear();
-  window.List2.clear();
+  clearRows(window);
   select(table, -1);
 }
 
@@ -225,11 +226,11 @@ void importCsv(const PriceTable& table) {
   table.platform.show(window);  // or the main window has the keys, which the preview belonged to
   if (!read) return;
   const int first = read->replacesList ? 0 : window.List1.items.size();
-  if (read->replacesList) window.List1.clear(), window.List2.clear();
+  if (read->replacesList) clearRows(window);
   window.List1.items.assign(joined(window.List1.items, std::move(read->names)));
   window.List2.items.assign(joined(window.List2.items, std::move(read->prices)));
   select(table, first);
-  showHint(window, "Noch nicht gespeichert");
+  showHint(window, kNotSaved);
 }
 
 void exportCsv(const PriceTable& table) {
@@ -259,12 +260,16 @@ void replaceSection(base::ProfileFile& file, std::string_view section, const bas
   settings::replaceArray(file, section, lines);
 }
 
+void storeRows(base::ProfileFile& file, const PriceTableWindow& window, const calc::PriceList& list) {
+  replaceSection(file, list.names, window.List1.items, storedName);
+  replaceSection(file, list.prices, window.List2.items, trimmedPrice);
+}
+
 void save(const PriceTable& table) {
   PriceTableWindow& window = table.window;
   const std::string path = table.paths.priceDatabase();
   base::ProfileFile file = base::ProfileFile::load(path);
-  replaceSection(file, table.kind.list.names, window.List1.items, storedName);
-  replaceSection(file, table.kind.list.prices, window.List2.items, trimmedPrice);
+  storeRows(file, window, table.kind.list);
   calc::unmarkAsSamples(file, table.kind.list);
   file.save(path);
   window.isSaved = true;
@@ -276,17 +281,28 @@ void saveAndClose(const PriceTable& table) {
   table.platform.close(table.window);
 }
 
+void fill(const PriceTable& table, const base::ProfileFile& file, const std::string& path) {
+  for (PriceRow& row : calc::storedRows(file, table.kind.list)) {
+    std::string price = calc::alignedPrice(row, table.kind.list, path);
+    insertAt(table.window, table.window.List1.items.size(), {std::move(row.name), std::move(price)});
+  }
+}
+
 void load(const PriceTable& table) {
   PriceTableWindow& window = table.window;
-  const calc::PriceList& list = table.kind.list;
   const std::string path = table.paths.priceDatabase();
   const base::ProfileFile file = base::ProfileFile::load(path);
   window.lblListe.text = table.kind.subject;
-  if (calc::areSamples(file, list)) window.lblListe.text.append("\r\n").append(calc::kSamplesHint);
-  for (PriceRow& row : calc::storedRows(file, list)) {
-    std::string price = calc::alignedPrice(row, list, path);
-    insertAt(window, window.List1.items.size(), {std::move(row.name), std::move(price)});
-  }
+  if (calc::areSamples(file, table.kind.list)) window.lblListe.text.append("\r\n").append(calc::kSamplesHint);
+  fill(table, file, path);
+}
+
+// They were whole, whatever the file has come to.
+void takeRecovered(const PriceTable& table, const std::string& rows) {
+  clearRows(table.window);
+  fill(table, base::ProfileFile::parse(rows), {});
+  table.window.isWhole = true;
+  showHint(table.window, kNotSaved);
 }
 
 bool hasUnsaved(const PriceTableWindow& window) { return window.isWhole && revision(window) != window.savedRevision; }
@@ -302,6 +318,7 @@ void close(const PriceTable& table) {
     window.keepsOpen = false;
   });
   window.Timer1.running = window.keepsOpen;
+  window.isLeft = !window.mayAsk;
 }
 
 using Procedure = void (*)(const PriceTable& table);
@@ -369,10 +386,24 @@ int selectedRow(const PriceTableWindow& window) {
   return window.List1.items.holds(window.List1.current) ? window.List1.current : -1;
 }
 
-void openPriceTable(const PriceTable& table) {
+std::uint64_t revision(const PriceTableWindow& window) {
+  return window.List1.items.revision() + window.List2.items.revision();
+}
+
+bool holdsUnsavedRows(const PriceTableWindow& window) {
+  return (window.isOpen || window.isLeft) && hasUnsaved(window) && !window.List1.items.empty();
+}
+
+std::string rowsAsFile(const PriceTableWindow& window, const calc::PriceList& list) {
+  base::ProfileFile file = base::ProfileFile::parse({});
+  storeRows(file, window, list);
+  return file.bytes();
+}
+
+void openPriceTable(const PriceTable& table, const std::string& recovered) {
   PriceTableWindow& window = table.window;
   window.isChanging = window.isWhole = window.isSaved = false;
-  for (base::ListBox* const list : {&window.List1, &window.List2}) list->clear();
+  clearRows(window);
   for (base::TextBox* const box : {&window.txtVersalie, &window.txtpreis}) box->text.clear();
   window.Progress1.visible = false;
   window.lblListe.text = table.kind.subject;
@@ -381,8 +412,9 @@ void openPriceTable(const PriceTable& table) {
     load(table);
     window.isWhole = true;
   });
-  if (!window.isWhole) window.lblListe.text += "\r\nNicht ganz gelesen: so kann die Liste nicht gespeichert werden";
   window.savedRevision = revision(window);
+  if (!recovered.empty()) takeRecovered(table, recovered);
+  if (!window.isWhole) window.lblListe.text += "\r\nNicht ganz gelesen: so kann die Liste nicht gespeichert werden";
   window.Timer1 = {.running = true, .intervalMilliseconds = kRefreshMilliseconds};
   refresh(window);
 }

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "base/controls.h"
@@ -57,6 +58,7 @@ struct PriceTableWindow : base::Window {
   bool isChanging = false;  // the selected row; else inserting
   bool isWhole = false;     // the file was read to its end
   bool isSaved = false;     // "&OK" has written the file since the window was opened
+  bool isLeft = false;      // it was closed when nobody could be asked
   std::uint64_t savedRevision = 0;
 };
 
@@ -97,8 +99,15 @@ struct PriceTable {
 void wirePriceTable(base::Wiring& wiring, const PriceTable& table);
 
 /// Fills the lists from the file and starts in the state of inserting; a failure is reported. To be called before the
-/// window is shown.
-void openPriceTable(const PriceTable& table);
+/// window is shown. With the bytes of `recovered` rows those take the place of the stored ones, and are not saved.
+void openPriceTable(const PriceTable& table, const std::string& recovered = {});
+
+/// There are rows that were neither saved nor let go.
+bool holdsUnsavedRows(const PriceTableWindow& window);
+/// Grows with every change of the rows.
+std::uint64_t revision(const PriceTableWindow& window);
+/// The rows as the bytes of a price file that holds this list alone.
+std::string rowsAsFile(const PriceTableWindow& window, const calc::PriceList& list);
 
 /// The row selected, -1 where there is none.
 int selectedRow(const PriceTableWindow& window);

@@ -16,7 +16,7 @@ using base::Currency;
 using base::Event;
 
 constexpr PriceTableKind kFoils{
-    .list = {.names = "Folien", .prices = "FPreise", .row = "der Folie"},
+    .list = kFoilList,
     .subject = "Nettopreis eines Quadratmeters jeder Folie",
     .saveQuestion = "Möchten Sie die Änderungen an der Folienliste speichern?",
     .nameMissing = "Bitte einen Foliennamen eingeben",
@@ -166,10 +166,10 @@ void followRates(const RollGoods& goods) {
   if (goods.window.isOpen) calculation(goods)();
 }
 
-void showRollGoods(const RollGoods& goods) {
+void showRollGoods(const RollGoods& goods, const std::string& recovered) {
   if (!goods.window.isOpen) {
     resetInputs(goods.window);
-    openPriceTable(foilTable(goods));
+    openPriceTable(foilTable(goods), recovered);
     calculation(goods)();
     const bool isEmpty = goods.window.List1.items.empty();
     (isEmpty ? static_cast<base::Control&>(goods.window.txtVersalie) : goods.window.List1).wantsFocus = true;

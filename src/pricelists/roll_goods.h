@@ -26,6 +26,8 @@ namespace pricelists {
   CONTROL(base::Button, cmdContainerLook)
 // clang-format on
 
+inline constexpr calc::PriceList kFoilList{.names = "Folien", .prices = "FPreise", .row = "der Folie"};
+
 struct RollGoodsWindow : PriceTableWindow {
   RollGoodsWindow() : PriceTableWindow("frmVoll") {}
 
@@ -60,8 +62,9 @@ struct RollGoods {
 
 void wireRollGoods(base::Wiring& wiring, const RollGoods& goods);
 
-/// Shows the window beside the others; one that is open already comes to the front as it is.
-void showRollGoods(const RollGoods& goods);
+/// Shows the window beside the others, with `recovered` rows if there are any; one that is open already comes to the
+/// front as it is.
+void showRollGoods(const RollGoods& goods, const std::string& recovered = {});
 
 /// To be called when another price file is in place: a window that is open reads it, in place of what was not saved.
 /// The foil that was selected is so again if it is there still.

@@ -229,7 +229,7 @@ TEST_F(Files, OfSeveralCopiesTheNewestIsTakenWhoseProgramIsGone) {
   const auto now = std::filesystem::file_time_type::clock::now();
   std::filesystem::last_write_time(directory.path("Wiederherstellung-999999998.rtf"), now - std::chrono::hours(1));
   EXPECT_TRUE(session.program.recovery.adopt());
-  EXPECT_EQ(base::plainText(session.program.recovery.read()), "999999999");
+  EXPECT_EQ(session.program.recovery.read(), "{\\rtf1 999999999}");
   session.program.recovery.putAside();
   EXPECT_TRUE(session.program.recovery.adopt());
   session.program.recovery.putAside();
@@ -240,32 +240,54 @@ TEST_F(Files, OfSeveralCopiesTheNewestIsTakenWhoseProgramIsGone) {
 
 // Process 1 is never this program.
 TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
-  const auto offer = [](const std::string& question) {
-    return base::Message{.text = "Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n" + question,
-                         .icon = base::MessageIcon::question,
-                         .buttons = base::MessageButtons::yesNo};
+  struct Left {
+    std::string name, bytes, question;
   };
-  for (const bool isWanted : {true, false}) {
-    directory.write("Wiederherstellung-1.rtf", "{\\rtf1 Huber}");
-    directory.write("Wiederherstellung-Container-1.rtf", "{\\rtf1 Notiz}");
+  const std::vector<Left> all = {
+      {"1.rtf", "{\\rtf1 Huber}", "Soll der nicht gespeicherte Text wiederhergestellt werden?"},
+      {"Container-1.rtf", "{\\rtf1 Notiz}",
+       "Soll der nicht gespeicherte Text im Text-Container wiederhergestellt werden?"},
+      {"Folien-1.pdb", "[Folien]\n0=Matt\n[FPreise]\n0=9 EUR\n",
+       "Sollen die nicht gespeicherten Änderungen an der Folienliste wiederhergestellt werden?"},
+      {"Preise-1.pdb", "[Versalien]\n0=10\n[Preise]\n0=1.25 EUR\n",
+       "Sollen die nicht gespeicherten Änderungen an der Preisliste wiederhergestellt werden?"}};
+  for (const bool isFirstWanted : {true, false}) {
     support::Session next(directory);
-    const editor::ContainerWindow& container = next.program.windows.container;
-    const auto answer = [](bool isYes) { return isYes ? MessageAnswer::yes : MessageAnswer::no; };
+    lifecycle::Program& program = next.program;
+    lifecycle::Windows& windows = program.windows;
     next.platform.userSettings["Version"] = "1.4";
-    next.platform.expectMessage(offer("Soll der nicht gespeicherte Text wiederhergestellt werden?"), answer(isWanted));
-    next.platform.expectMessage(offer("Soll der nicht gespeicherte Text im Text-Container wiederhergestellt werden?"),
-                                answer(!isWanted));
+    bool isWanted = isFirstWanted;
+    for (const Left& left : all) {
+      directory.write("Wiederherstellung-" + left.name, left.bytes);
+      next.platform.expectMessage(
+          {.text = "Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n" + left.question,
+           .icon = base::MessageIcon::question,
+           .buttons = base::MessageButtons::yesNo},
+          isWanted ? MessageAnswer::yes : MessageAnswer::no);
+      isWanted = !isWanted;
+    }
+    if (!isFirstWanted) {
+      next.platform.expectModal("frmData", [&](base::Window& editor) {
+        EXPECT_EQ(windows.priceEditor.List2.items[0], "        1.25 EUR");
+        // From here on nobody can be asked: what is not saved stays for the next start.
+        windows.eachWindow([](base::Window& each) { each.mayAsk = false; });
+        program.wiring.fire(editor, base::Event::closing);
+        next.platform.close(editor);
+      });
+    }
     next.start();
-    EXPECT_EQ(next.document.plainText(), isWanted ? "Huber" : "");
-    EXPECT_EQ(container.rtfTextC.plainText(), isWanted ? "" : "Notiz");
-    EXPECT_EQ(next.window.mnuContainerLook.enabled, !isWanted);
-    EXPECT_EQ(inFile(isWanted ? "Verworfen-1.rtf" : "Verworfen-2.rtf"), isWanted ? "Notiz" : "Huber");
-    EXPECT_FALSE(std::filesystem::exists(directory.path("Wiederherstellung-1.rtf")));
-    // Nobody can be asked: what is not saved stays for the next start.
-    next.window.mayAsk = false;
+    EXPECT_EQ(next.document.plainText(), isFirstWanted ? "Huber" : "");
+    EXPECT_EQ(windows.container.rtfTextC.plainText(), isFirstWanted ? "" : "Notiz");
+    EXPECT_EQ(next.window.mnuContainerLook.enabled, !isFirstWanted);
+    EXPECT_EQ(windows.rollGoods.lblPreis.text, isFirstWanted ? "0,00 EUR" : "");
+    EXPECT_EQ(inFile(isFirstWanted ? "Verworfen-1.rtf" : "Verworfen-2.rtf"), isFirstWanted ? "Notiz" : "Huber");
+    windows.eachWindow([](base::Window& each) { each.mayAsk = false; });
     next.end();
-    for (const auto* const copy : {&next.program.recovery, &next.program.containerRecovery}) {
-      EXPECT_EQ(std::filesystem::remove(copy->path()), (copy == &next.program.recovery) == isWanted);
+    isWanted = isFirstWanted;
+    for (const auto* const copy :
+         {&program.recovery, &program.containerRecovery, &program.foilRecovery, &program.priceRecovery}) {
+      EXPECT_EQ(std::filesystem::remove(copy->path()), isWanted) << copy->path();
+      isWanted = !isWanted;
     }
   }
 }

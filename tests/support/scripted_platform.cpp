@@ -71,9 +71,11 @@ void ScriptedPlatform::showModal(base::Window& window) {
   EXPECT_EQ(question.window, window.name);
   const std::size_t outer = open_.size();
   open_.push_back(&window);
+  window.isOpen = true;
   if (question.whileOpen) question.whileOpen(window);
   EXPECT_EQ(open_.size(), outer) << window.name << " was left open";
   open_.resize(outer);
+  window.isOpen = false;
 }
 
 void ScriptedPlatform::close(base::Window& window) {
