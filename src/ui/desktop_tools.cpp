@@ -1,7 +1,6 @@
 // The desktop's tools, each in a process of its own.
 #include "ui/desktop_tools.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 
 #include "base/failure.h"
@@ -10,11 +9,13 @@
 namespace ui {
 namespace {
 
-// It may go on as long as the program that it opens; what it cannot do it says at once.
+// It may go on as long as the program that it opens; what it cannot do it says at once. It belongs to nobody, since a
+// process is killed with what owns it, and the message may be finished when Tessik has long ended.
 bool succeeds(const QString& tool, const QStringList& arguments) {
   constexpr int kPatience = 3000;  // milliseconds
-  auto* const process = new QProcess(QCoreApplication::instance());
+  auto* const process = new QProcess;
   QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+  process->setStandardInputFile(QProcess::nullDevice());
   process->setStandardOutputFile(QProcess::nullDevice());
   process->setStandardErrorFile(QProcess::nullDevice());
   process->start(tool, arguments);
