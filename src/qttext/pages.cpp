@@ -102,9 +102,21 @@ class Writer {
     cell.setFormat(format);
   }
 
+  // What stands above and below a table has no padding at its ends.
+  static void alignWithText(QTextTableCell& cell) {
+    QTextTableCellFormat format = cell.format().toTableCellFormat();
+    if (cell.column() == 0) {
+      format.setLeftPadding(0);
+    } else {
+      format.setRightPadding(0);
+    }
+    cell.setFormat(format);
+  }
+
   static void write(const QTextTable& table, int row, const base::PrintRow& content) {
     const auto fill = [&](int column, const std::string& text, Qt::Alignment alignment) {
-      const QTextTableCell cell = table.cellAt(row, column);
+      QTextTableCell cell = table.cellAt(row, column);
+      alignWithText(cell);
       if (content.isTotal) rule(cell, Side::top);
       QTextCursor cursor = cell.firstCursorPosition();
       QTextBlockFormat block;
