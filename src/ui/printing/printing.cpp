@@ -3,6 +3,7 @@
 
 #include <QDialogButtonBox>
 #include <QPageLayout>
+#include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -42,6 +43,9 @@ void printOn(QPrinter& printer, const base::PrintJob& job, const EachPage& eachP
     throw base::Failure(base::ErrorNumber::deviceIo, "Der Drucker meldet einen Fehler.");
   }
 }
+
+// The toolkit's preview hands the printer over for its own picture of the pages, and again when they are to be printed.
+bool isShowing(const QPrinter& printer) { return printer.paintEngine()->type() == QPaintEngine::Picture; }
 
 }  // namespace
 
@@ -90,7 +94,11 @@ void Printing::preview(const base::PrintJob& job, QWidget* parent) {
   dialog.setWindowTitle(QStringLiteral("Seitenansicht"));
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* device) {
     try {
-      qttext::printPages(job, *device);
+      if (isShowing(*device)) {
+        qttext::printPages(job, *device);
+      } else {
+        printOn(*device, job, {});
+      }
     } catch (...) {
       failure = std::current_exception();
     }
