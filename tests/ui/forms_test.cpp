@@ -31,6 +31,19 @@ TEST(Forms, EachWindowDrawsEveryControlAndNothingElse) {
   });
 }
 
+TEST(Forms, TabReachesEverythingInEachWindow) {
+  lifecycle::Windows windows;
+  windows.eachWindow([](auto& window) {
+    const std::unique_ptr<QWidget> form(ui::formOf(window.name).build(nullptr));
+    std::set<const QWidget*> reached;
+    for (const QWidget* at = form.get(); reached.insert(at).second;) at = at->nextInFocusChain();
+    for (const QWidget* each : form->findChildren<QWidget*>()) {
+      const bool takesTab = each->window() == form.get() && (each->focusPolicy() & Qt::TabFocus) != 0;
+      EXPECT_TRUE(!takesTab || reached.contains(each)) << window.name << ": " << each->objectName().toStdString();
+    }
+  });
+}
+
 TEST(Forms, ABoundMenuKeepsItsSeparators) {
   frame::MainWindow window;
   ui::MainForm form;
