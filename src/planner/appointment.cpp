@@ -34,6 +34,14 @@ int withCentury(int year) {
   return year + (year < kFirstOfLastCentury ? 2000 : 1900);
 }
 
+base::Failure noAppointment(std::string_view line) {
+  return {
+      base::ErrorNumber::typeMismatch,
+      "Eine Zeile der Termine beginnt nicht mit Datum und Uhrzeit. Bitte löschen Sie sie und tragen Sie den Termin neu "
+      "ein:\n" +
+          std::string(line)};
+}
+
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 // "0" in the pattern is a digit, "/" and ":" are separators of dates and times.
@@ -70,10 +78,10 @@ std::optional<base::DateTime> validDate(std::string_view day, std::string_view m
   return existing(*d, *m, withCentury(*y));
 }
 
-base::DateTime atTime(base::DateTime day, int hour, int minute) {
+std::optional<base::DateTime> atTime(base::DateTime day, int hour, int minute) {
   constexpr int kLastHour = 23;
   constexpr int kLastMinute = 59;
-  if (hour > kLastHour || minute > kLastMinute) throw base::Failure(base::ErrorNumber::typeMismatch);
+  if (hour > kLastHour || minute > kLastMinute) return std::nullopt;
   day.hour = hour;
   day.minute = minute;
   return day;
@@ -85,8 +93,9 @@ base::DateTime momentOf(std::string_view line) {
                                                                  [](char pattern, char c) { return fits(c, pattern); });
   const auto day =
       isWritten ? existing(numberAt(line, 0, 2), numberAt(line, 3, 2), numberAt(line, 6, 4)) : std::nullopt;
-  if (!day) throw base::Failure(base::ErrorNumber::typeMismatch);
-  return atTime(*day, numberAt(line, 13, 2), numberAt(line, 16, 2));
+  const auto moment = day ? atTime(*day, numberAt(line, 13, 2), numberAt(line, 16, 2)) : std::nullopt;
+  if (!moment) throw noAppointment(line);
+  return *moment;
 }
 
 std::int64_t minutesBetween(const base::DateTime& from, const base::DateTime& to) {

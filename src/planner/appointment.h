@@ -24,8 +24,8 @@ std::string keyOf(const base::DateTime& moment, const base::DateFormat& format);
 /// Day, month and year as they stand in the fields; nothing when there is no such day. A year of two digits is one from
 /// 1930 to 2029.
 std::optional<base::DateTime> validDate(std::string_view day, std::string_view month, std::string_view year);
-/// A day at a time of day. Error 13 when there is no such time.
-base::DateTime atTime(base::DateTime day, int hour, int minute);
+/// A day at a time of day; nothing when there is no such time.
+std::optional<base::DateTime> atTime(base::DateTime day, int hour, int minute);
 /// The moment that the key of a line names, with whatever separators. Error 13 when it names none.
 base::DateTime momentOf(std::string_view line);
 /// Minutes from one to the other moment, as the clock on the wall counts.

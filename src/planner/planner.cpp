@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/failure.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "planner/appointment.h"
@@ -142,8 +143,9 @@ void create(const PlannerParts& parts) {
     parts.platform.beep();
     return refuse(parts, "Keinen Text eingegeben!", window.TerminText);
   }
-  const base::DateTime moment = atTime(*date, valueOf(window.Stunden), valueOf(window.Minuten));
-  enter(parts, lineOf(keyOf(moment, parts.platform.dateFormat()), text));
+  const auto moment = atTime(*date, valueOf(window.Stunden), valueOf(window.Minuten));
+  if (!moment) throw base::Failure(base::ErrorNumber::typeMismatch);
+  enter(parts, lineOf(keyOf(*moment, parts.platform.dateFormat()), text));
 }
 
 // True when nothing is typed, or what is typed may go.

@@ -214,7 +214,9 @@ TEST(Planner, missedAppointmentsAreAnnouncedInOrderWithTheFixedChime) {
   planner.planner.isOpen = false;
   planner.platform.devices = 0;
   planner.expectMissed("Termin am 01.01.2004 um 10:00 Uhr", "a");
-  planner.expectFailure(base::errorText(base::ErrorNumber::typeMismatch));
+  planner.expectFailure(
+      "Eine Zeile der Termine beginnt nicht mit Datum und Uhrzeit. Bitte löschen Sie sie und tragen Sie den Termin neu "
+      "ein:\nkaputt");
   planner.open();
   EXPECT_NE(directory.read("Error.log").find("modGlobal-Alte_Einträge_löschen"), std::string::npos);
   EXPECT_EQ(planner.planner.Liste.items.size() + planner.planner.List1.items.size(), 2);
