@@ -2,6 +2,7 @@
 #include "qtcore/utf8.h"
 
 #include <QByteArray>
+#include <QRegularExpression>
 
 #include "base/text.h"
 
@@ -21,6 +22,17 @@ std::string toUtf8(QStringView text) { return text.toUtf8().toStdString(); }
 
 QString inShownLines(std::string_view utf8) {
   return toQString(utf8).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n');
+}
+
+QString inWrappedLines(std::string_view utf8) {
+  constexpr qsizetype kMost = 1200;
+  constexpr qsizetype kLastPart = 300;
+  static const QRegularExpression longWord(QStringLiteral("(\\S{80})"));
+  QString text = inShownLines(utf8);
+  if (text.size() > kMost) {
+    text = text.left(kMost - kLastPart) + QStringLiteral(" … ") + text.right(kLastPart);
+  }
+  return text.replace(longWord, QStringLiteral("\\1\u200b"));
 }
 
 }  // namespace qtcore

@@ -108,7 +108,7 @@ base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
   if (isUnattended_) return answer(0, message.buttons);
   const Gate::ModalWait wait(gate_);
   setProgramIcon();
-  QMessageBox box(icon(message.icon), toQString(message.title), inShownLines(message.text), buttons(message.buttons),
+  QMessageBox box(icon(message.icon), toQString(message.title), inWrappedLines(message.text), buttons(message.buttons),
                   windows_.inFront());
   box.setTextFormat(Qt::PlainText);
   return answer(box.exec(), message.buttons);

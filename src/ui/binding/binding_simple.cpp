@@ -48,7 +48,9 @@ LabelBinding::LabelBinding(base::Label& model, QLabel& widget, const Context& co
 }
 
 void LabelBinding::carryOwn() {
-  if (text_.follow(model_.text)) widget_.setText(inShownLines(model_.text));
+  if (text_.follow(model_.text)) {
+    widget_.setText(widget_.wordWrap() ? inWrappedLines(model_.text) : inShownLines(model_.text));
+  }
   if (colour_.follow(model_.colour)) showColour();
 }
 
