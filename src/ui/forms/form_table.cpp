@@ -12,6 +12,7 @@
 #include "ui/forms/letter_size.h"
 #include "ui/forms/main_form.h"
 #include "ui/forms/price_columns.h"
+#include "ui/widgets/unhurried_keys.h"
 #include "ui_backup.h"
 #include "ui_calculator.h"
 #include "ui_csv_import.h"
@@ -95,6 +96,7 @@ QWidget* planner(QWidget* /*parent*/) {
 QWidget* reminder(QWidget* /*parent*/) {
   auto* const window = new FormDialog(nullptr);
   Ui::ReminderForm().setupUi(window);
+  new UnhurriedKeys(*window);
   window->resize(inLetters(*window, 64, 10));
   return window;
 }
