@@ -94,10 +94,11 @@ void hint(PlannerWindow& window, std::string_view text) {
   window.lblHinweis.visible = !text.empty();
 }
 
-// A list has one line for each appointment, whatever was pasted.
+// A list has one line for each appointment, whatever was pasted, and the file no control characters.
 std::string asOneLine(std::string_view text) {
   std::string line = base::inOneLine(text);
-  std::replace(line.begin(), line.end(), '\t', ' ');
+  std::replace_if(
+      line.begin(), line.end(), [](unsigned char c) { return c < ' '; }, ' ');
   return line;
 }
 
@@ -324,7 +325,8 @@ void wireCommands(base::Wiring& wiring, const PlannerParts& parts) {
   wiring.on(window.cmdVorschau, Event::click, reported(parts, "Termine-cmdVorschau", preview));
   wiring.on(window.cmdPDF, Event::click, reported(parts, "Termine-cmdPDF", savePdf));
   for (const base::ListBox* const list : {&window.Liste, &window.List1}) wiring.on(*list, Event::keyDelete, remove);
-  wiring.on(window.Liste, Event::doubleClick, reported(parts, "Termine-ListeDblClick", takeOut));
+  const auto edit = reported(parts, "Termine-ListeDblClick", takeOut);
+  for (const Event event : {Event::doubleClick, Event::keyEnter}) wiring.on(window.Liste, event, edit);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QListView>
+#include <QPushButton>
 #include <string>
 
 #include "walk.h"
@@ -59,6 +60,10 @@ TEST(Walk, AnAppointmentIsEnteredWatchedAndAnnounced) {
   walk.whenAsked([&](QDialog& dialog) { chooseFile(dialog, QString::fromStdString(shop.directory.path("T.pdf"))); });
   walk.click("cmdPDF");
   EXPECT_TRUE(shop.directory.read("T.pdf").starts_with("%PDF-"));
+  walk.widget<QListView>("Liste").setFocus();
+  walk.press(Qt::Key_Return);
+  EXPECT_EQ(walk.text("TerminText"), "Schild „Café“ liefern") << "by its key";
+  walk.press(Qt::Key_Return);
   walk.click("Check_Beep");
   walk.press(Qt::Key_Escape);
   const std::string kept = "0=28.02.2030   12:07       Schild „Café“ liefern\r\n";
@@ -73,7 +78,9 @@ TEST(Walk, AnAppointmentIsEnteredWatchedAndAnnounced) {
   walk.whenAsked([&](QDialog& dialog) {
     EXPECT_EQ(dialog.findChild<QLabel*>("lblTermin")->text().toStdString(), "Termin am 28.02.2030 um 12:07 Uhr");
     EXPECT_EQ(dialog.windowTitle().left(26).toStdString(), "Erinnerung am 28.02.2030 u");
-    QTest::keyClick(&dialog, Qt::Key_Return);
+    for (const Qt::Key typed : {Qt::Key_A, Qt::Key_Space}) QTest::keyClick(dialog.focusWidget(), typed);
+    EXPECT_TRUE(dialog.isVisible()) << "in the middle of a text";
+    QTest::mouseClick(dialog.findChild<QPushButton*>("command1"), Qt::LeftButton);
   });
   walk.now.hour = 12, walk.now.minute = 7;
   EXPECT_TRUE(QTest::qWaitFor([&] { return shop.file("Termine.ini") == "[TermineAlt]\r\n" + kept; }));
@@ -91,6 +98,13 @@ TEST(Walk, ThePlannerAsksAtTheEndAndChecksAtTheNextStart) {
     walk.click("Erzeugen");
     walk.fill("TerminText", "neu");
     walk.click("Check_Start");
+    walk.fill("TerminText", QString(5000, 'W'));
+    walk.whenAsked([](QDialog& dialog) {
+      EXPECT_LT(dialog.height(), 700);
+      QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    walk.click("Ende");
+    walk.fill("TerminText", "neu");
     walk.expectBox("Sie haben den Termin \"neu\" nicht hinzugefügt, möchten Sie ihn verwerfen?", QMessageBox::No);
     QMetaObject::invokeMethod(&walk.desktop->mainForm(), &QWidget::close, Qt::QueuedConnection);
     EXPECT_FALSE(QTest::qWaitFor([&] { return walk.desktop->hasEnded(); }, 100));
