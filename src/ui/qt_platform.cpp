@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -18,6 +19,7 @@
 #include "qtcore/clock.h"
 #include "qtcore/locale.h"
 #include "qtcore/user_settings.h"
+#include "qtcore/utf8.h"
 #include "qttext/pdf.h"
 #include "ui/appearance.h"
 #include "ui/desktop_notification.h"
@@ -102,15 +104,28 @@ class Busy {
   QtPlatform& platform_;
 };
 
+// The toolkit leaves less room beside the title than icon and buttons of most desktops' frames take.
+void showWholeTitle(QMessageBox& box) {
+  constexpr int kFrameLetters = 22;
+  auto* const grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid == nullptr) return;
+  QFont bold = box.font();
+  bold.setBold(true);
+  const int frame = kFrameLetters * box.fontMetrics().averageCharWidth();
+  const int wanted = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + frame;
+  grid->addItem(new QSpacerItem(wanted, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 }  // namespace
 
 base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
   if (isUnattended_) return answer(0, message.buttons);
   const Gate::ModalWait wait(gate_);
   setProgramIcon();
-  QMessageBox box(icon(message.icon), toQString(message.title), inWrappedLines(message.text), buttons(message.buttons),
-                  windows_.inFront());
+  QMessageBox box(icon(message.icon), toQString(message.title), qtcore::inWrappedLines(message.text),
+                  buttons(message.buttons), windows_.inFront());
   box.setTextFormat(Qt::PlainText);
+  showWholeTitle(box);
   return answer(box.exec(), message.buttons);
 }
 

@@ -6,7 +6,6 @@
 namespace ui {
 
 using qtcore::inShownLines;
-using qtcore::inWrappedLines;
 using qtcore::toQString;
 using qtcore::toUtf8;
 
