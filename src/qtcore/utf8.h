@@ -14,8 +14,8 @@ QString toQString(std::string_view utf8);
 std::string toUtf8(QStringView text);
 /// For display: line ends of any kind become those that labels and boxes break at.
 QString inShownLines(std::string_view utf8);
-/// For a box that grows with its text: the same without the middle of a text that would fill the screen, and with places
-/// to break in words that are wider than it.
+/// For a box that grows with its text: the same without the middle of a text that would fill the screen, and with
+/// places to break in words that are wider than it.
 QString inWrappedLines(std::string_view utf8);
 
 }  // namespace qtcore
