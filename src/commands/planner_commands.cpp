@@ -1,6 +1,7 @@
 // The planner in the program.
 #include "commands/planner_commands.h"
 
+#include "planner/appointment_store.h"
 #include "planner/planner.h"
 #include "planner/reminders.h"
 
@@ -21,6 +22,11 @@ void wirePlannerCommands(base::Wiring& wiring, const MainParts& parts) {
   wiring.on(
       parts.window.mnuTerminPlaner, base::Event::click,
       reported(parts, "MAIN-mnuTerminPlaner_Click", [](const MainParts& p) { planner::openPlanner(plannerParts(p)); }));
+}
+
+void showRecoveredAppointments(const MainParts& parts, const std::string& recovered) {
+  planner::storeLists(parts.paths.appointments(), recovered);
+  planner::openPlanner(plannerParts(parts));
 }
 
 void checkAppointments(const MainParts& parts) { planner::checkAtStart(plannerParts(parts)); }

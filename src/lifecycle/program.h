@@ -32,6 +32,7 @@ struct Program {
   editor::OpenDocument containerDocument = {};
   editor::RecoveryCopy recovery{paths.programDirectory, "Wiederherstellung-", ".rtf"};
   editor::RecoveryCopy containerRecovery{paths.programDirectory, "Wiederherstellung-Container-", ".rtf"};
+  editor::RecoveryCopy appointmentRecovery{paths.programDirectory, "Wiederherstellung-Termine-", ".ini"};
   editor::RecoveryCopy foilRecovery{paths.programDirectory, "Wiederherstellung-Folien-", ".pdb"};
   editor::RecoveryCopy priceRecovery{paths.programDirectory, "Wiederherstellung-Preise-", ".pdb"};
   editor::Spelling spelling{platform, paths.ownWords()};

@@ -11,9 +11,11 @@
 
 #include "commands/file_commands.h"
 #include "commands/note_commands.h"
+#include "commands/planner_commands.h"
 #include "commands/price_list_commands.h"
 #include "editor/document_file.h"
 #include "editor/rtf_writer.h"
+#include "planner/appointment_store.h"
 
 namespace lifecycle {
 namespace {
@@ -77,6 +79,17 @@ KeptWork keptFoils(Program& program) {
   return work;
 }
 
+KeptWork keptAppointments(Program& program) {
+  const planner::PlannerWindow& window = program.windows.planner;
+  return {
+      .copy = program.appointmentRecovery,
+      .isUnsaved = [&] { return window.isRead && planner::isUnsaved(window); },
+      .revision = [&] { return planner::revision(window); },
+      .bytes = [&] { return planner::listsAsFile(window); },
+      .recoverQuestion = "Sollen die nicht gespeicherten Termine wiederhergestellt werden?",
+      .show = [&](const std::string& recovered) { commands::showRecoveredAppointments(partsOf(program), recovered); }};
+}
+
 KeptWork keptPrices(Program& program) {
   KeptWork work = keptRows(program.windows.priceEditor, calc::kCapHeights, program.priceRecovery);
   work.recoverQuestion = "Sollen die nicht gespeicherten Änderungen an der Preisliste wiederhergestellt werden?";
@@ -85,8 +98,9 @@ KeptWork keptPrices(Program& program) {
 }
 
 // In the order in which each is offered: the editor of the price list, which is waited for, comes last.
-std::array<KeptWork, 4> keptWork(Program& program) {
-  return {keptLettering(program), keptContainer(program), keptFoils(program), keptPrices(program)};
+std::array<KeptWork, 5> keptWork(Program& program) {
+  return {keptLettering(program), keptContainer(program), keptAppointments(program), keptFoils(program),
+          keptPrices(program)};
 }
 
 constexpr const char* kNoCopy = "Keine Sicherungskopie: bitte speichern";
@@ -129,18 +143,7 @@ bool isAnsweredFor(Program& program, const KeptWork& kept) {
   return isAnswered;
 }
 
-std::string readLeft(editor::RecoveryCopy& copy) {
-  try {
-    return copy.read();
-  } catch (const base::Failure&) {
-    copy.putAside();
-    throw;
-  }
-}
-
-void offerRecovered(Program& program, const KeptWork& kept) {
-  if (!kept.copy.adopt()) return;
-  const std::string left = readLeft(kept.copy);
+void offer(Program& program, const KeptWork& kept, const std::string& left) {
   const base::MessageAnswer answer = program.platform.messageBox(
       {.text = std::string("Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n").append(kept.recoverQuestion),
        .icon = base::MessageIcon::question,
@@ -149,6 +152,16 @@ void offerRecovered(Program& program, const KeptWork& kept) {
   if (answer != base::MessageAnswer::yes) return kept.copy.putAside();
   kept.show(left);
   kept.copy.keepsUpWith(kept.revision());
+}
+
+void offerRecovered(Program& program, const KeptWork& kept) {
+  if (!kept.copy.adopt()) return;
+  try {
+    offer(program, kept, kept.copy.read());
+  } catch (const std::exception&) {
+    kept.copy.putAside();
+    throw;
+  }
 }
 
 }  // namespace

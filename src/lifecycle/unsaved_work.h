@@ -1,5 +1,5 @@
-// What protects work that is not saved, the lettering, the container's text and the rows of both price lists: a
-// recovery copy of each while the program runs, the question at its end, the offer at the next start.
+// What protects work that is not saved, the lettering, the container's text, appointments and the rows of both price
+// lists: a recovery copy of each while the program runs, the question at its end, the offer at the next start.
 #pragma once
 
 #include "lifecycle/program.h"

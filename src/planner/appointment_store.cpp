@@ -46,6 +46,11 @@ void replaceSection(base::ProfileFile& file, std::string_view section, const bas
   for (int row = 0; row < lines.size(); ++row) file.setValue(section, std::to_string(row), lines[row]);
 }
 
+void replaceLists(base::ProfileFile& file, const base::ItemList& present, const base::ItemList& old) {
+  replaceSection(file, kPresent, present);
+  replaceSection(file, kOld, old);
+}
+
 }  // namespace
 
 void Liste_füllen(PlannerWindow& window, const std::string& file) {
@@ -67,11 +72,33 @@ void Schreibe_neue_Liste(PlannerWindow& window, const std::string& file) {
       throw base::Failure(number, base::withPlace(kRefusal, file, number));
     }
     base::ProfileFile profile = base::ProfileFile::load(file);
-    replaceSection(profile, kPresent, window.Liste.items);
-    replaceSection(profile, kOld, window.List1.items);
+    replaceLists(profile, window.Liste.items, window.List1.items);
     profile.save(file);
     window.storedRevisions = revisionsOf(window);
   });
+}
+
+std::string listsAsFile(const PlannerWindow& window) {
+  base::ItemList present = window.Liste.items;
+  if (!window.takenOut.empty()) addSorted(present, window.takenOut);
+  base::ProfileFile file = base::ProfileFile::parse({});
+  replaceLists(file, present, window.List1.items);
+  return file.bytes();
+}
+
+void storeLists(const std::string& file, std::string_view lists) {
+  const base::ProfileFile read = base::ProfileFile::parse(std::string(lists));
+  base::ProfileFile profile = base::ProfileFile::load(file);
+  base::ItemList present;
+  base::ItemList old;
+  present.assign(sortedSection(read, kPresent));
+  old.assign(sortedSection(read, kOld));
+  replaceLists(profile, present, old);
+  profile.save(file);
+}
+
+std::uint64_t revision(const PlannerWindow& window) {
+  return window.Liste.items.revision() + window.List1.items.revision();
 }
 
 bool isUnsaved(const PlannerWindow& window) { return window.storedRevisions != revisionsOf(window); }

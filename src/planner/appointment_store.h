@@ -1,6 +1,7 @@
 // The file of the appointments, Termine.ini, and the lists it is read into and written from.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,13 @@ void Liste_füllen(PlannerWindow& window, const std::string& file);
 /// Rewrites both sections in one replacement of the file. What was not read is not written over.
 void Schreibe_neue_Liste(PlannerWindow& window, const std::string& file);
 
+/// Both lists as the bytes of a file; an appointment that is being edited stands among the present ones.
+[[nodiscard]] std::string listsAsFile(const PlannerWindow& window);
+/// Puts the lists of such bytes into `file`, in place of those that it holds.
+void storeLists(const std::string& file, std::string_view lists);
+
+/// Grows with each change of a list.
+[[nodiscard]] std::uint64_t revision(const PlannerWindow& window);
 /// Whether the lists hold what the file does not.
 [[nodiscard]] bool isUnsaved(const PlannerWindow& window);
 

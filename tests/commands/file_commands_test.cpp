@@ -247,6 +247,8 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
       {"1.rtf", "{\\rtf1 Huber}", "Soll der nicht gespeicherte Text wiederhergestellt werden?"},
       {"Container-1.rtf", "{\\rtf1 Notiz}",
        "Soll der nicht gespeicherte Text im Text-Container wiederhergestellt werden?"},
+      {"Termine-1.ini", "[Termine]\n0=24.12.2030   14:30       Neu\n",
+       "Sollen die nicht gespeicherten Termine wiederhergestellt werden?"},
       {"Folien-1.pdb", "[Folien]\n0=Matt\n[FPreise]\n0=9 EUR\n",
        "Sollen die nicht gespeicherten Änderungen an der Folienliste wiederhergestellt werden?"},
       {"Preise-1.pdb", "[Versalien]\n0=10\n[Preise]\n0=1.25 EUR\n",
@@ -266,7 +268,7 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
           isWanted ? MessageAnswer::yes : MessageAnswer::no);
       isWanted = !isWanted;
     }
-    if (!isFirstWanted) {
+    if (isFirstWanted) {
       next.platform.expectModal("frmData", [&](base::Window& editor) {
         EXPECT_EQ(windows.priceEditor.List2.items[0], "        1.25 EUR");
         // From here on nobody can be asked: what is not saved stays for the next start.
@@ -279,15 +281,18 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
     EXPECT_EQ(next.document.plainText(), isFirstWanted ? "Huber" : "");
     EXPECT_EQ(windows.container.rtfTextC.plainText(), isFirstWanted ? "" : "Notiz");
     EXPECT_EQ(next.window.mnuContainerLook.enabled, !isFirstWanted);
-    EXPECT_EQ(windows.rollGoods.lblPreis.text, isFirstWanted ? "0,00 EUR" : "");
+    EXPECT_EQ(windows.rollGoods.lblPreis.text, isFirstWanted ? "" : "0,00 EUR");
+    EXPECT_EQ(windows.planner.Liste.items.size(), isFirstWanted ? 1 : 0);
     EXPECT_EQ(inFile(isFirstWanted ? "Verworfen-1.rtf" : "Verworfen-2.rtf"), isFirstWanted ? "Notiz" : "Huber");
     windows.eachWindow([](base::Window& each) { each.mayAsk = false; });
     next.end();
-    isWanted = isFirstWanted;
-    for (const auto* const copy :
-         {&program.recovery, &program.containerRecovery, &program.foilRecovery, &program.priceRecovery}) {
-      EXPECT_EQ(std::filesystem::remove(copy->path()), isWanted) << copy->path();
-      isWanted = !isWanted;
+    // Appointments are written as they are taken back.
+    for (const auto& [copy, stays] : {std::pair(&program.recovery, isFirstWanted),
+                                      {&program.containerRecovery, !isFirstWanted},
+                                      {&program.appointmentRecovery, false},
+                                      {&program.foilRecovery, !isFirstWanted},
+                                      {&program.priceRecovery, isFirstWanted}}) {
+      EXPECT_EQ(std::filesystem::remove(copy->path()), stays) << copy->path();
     }
   }
 }
