@@ -197,7 +197,7 @@ void Pages::paintText(QPainter& painter, int number) {
   painter.translate(0, body_.top() - part.top());
   painter.setClipRect(part);
   QAbstractTextDocumentLayout::PaintContext context;
-  context.clip = part;
+  context.clip = part.adjusted(0, 1, 0, -1);  // or a line that touches the next page would be hidden text on it
   context.palette.setColor(QPalette::Text, Qt::black);
   text_.documentLayout()->draw(&painter, context);
   painter.restore();
