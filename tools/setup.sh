@@ -16,7 +16,7 @@ run_packages=(
 # Without it Qt reaches a Wayland desktop only through its X server.
 [[ -z ${WAYLAND_DISPLAY:-} ]] || run_packages+=(qt6-wayland)
 # shellcheck disable=SC2034 # read by the scripts that source this
-check_packages=(git python3 clang-format clang-tidy)
+check_packages=(git python3 clang-format clang-tidy poppler-utils)
 
 say() { printf '%s\n' "$*" >&2; }
 

@@ -115,16 +115,6 @@ TEST(Calc, ListEntriesTakeTheirShareOfTheNetPrice) {
   }
 }
 
-TEST(Calc, TotalsWithVatAndMarks) {
-  Desk desk;
-  desk.offerHeights({{"50", "1.05"}});
-  desk.write(std::string(100, 'x'));
-  EXPECT_EQ(desk.window.lblBruttoGesamt.text, "121,80 EUR");
-  EXPECT_EQ(desk.window.lblMwstG.text, "16,80 EUR");
-  EXPECT_EQ(desk.window.lblEURO.text, "205,36 DM");
-  EXPECT_EQ(desk.window.lblEURObrutto.text, "238,22 DM");
-}
-
 // The sign is read from the text on display: with a decimal comma −0,50 reads as zero, with a point it does not.
 TEST(Calc, ColoursTheTotalsByTheSignOnDisplay) {
   struct Row {

@@ -157,24 +157,6 @@ TEST_F(Files, WarnOfTextsBeyond65000CharactersWithTheirLineEnds) {
   openAs("zuviel.txt", [&] { session.platform.expectMessage(warning); });
 }
 
-TEST_F(Files, TheEndAsksForUnsavedWorkAndStaysWhenItIsNotKept) {
-  session.write("Huber");
-  session.platform.expectMessage(kSaveQuestion, MessageAnswer::cancel);
-  session.end();
-  EXPECT_TRUE(session.window.keepsOpen);
-  session.window.keepsOpen = false;
-  session.platform.expectMessage(kSaveQuestion, MessageAnswer::yes);
-  session.platform.expectFileDialog(kSaveFilter, std::nullopt);
-  session.end();
-  EXPECT_TRUE(session.window.keepsOpen);
-  session.window.keepsOpen = false;
-  session.platform.expectMessage(kSaveQuestion, MessageAnswer::yes);
-  session.platform.expectFileDialog(kSaveFilter, directory.path("Huber"));
-  session.end();
-  EXPECT_FALSE(session.window.keepsOpen);
-  EXPECT_EQ(inFile("Huber.rtf"), "Huber");
-}
-
 TEST_F(Files, TheRecoveryCopiesFollowTheirTextsAndGoWithACleanEnd) {
   const auto nameOf = [](const editor::RecoveryCopy& of) {
     return std::filesystem::path(of.path()).filename().string();

@@ -26,7 +26,6 @@ struct LetteringDesk : Desk {
     if (window.lblSuchangebot.visible) told = window.lblSuchangebot.text;
     return std::to_string(at.start) + "+" + std::to_string(at.length) + " " + told;
   }
-  void tick() { program.wiring.fire(window.tmrSuche, Event::tick); }
 };
 
 TEST(FindBar, StepsFromTheCaretAndOffersToGoOnAtTheOtherEnd) {
@@ -141,20 +140,6 @@ TEST(FindBar, TakesWhatIsSelectedInOneLineUnlessItSelectedThatItself) {
   longest.document.select({.start = 0, .length = 1'001});
   longest.click(longest.window.mnuSuchen);
   EXPECT_EQ(longest.window.txtSuche.text, "");
-}
-
-TEST(FindBar, CountsAgainOnceNobodyWritesAnyMore) {
-  LetteringDesk desk("Rad");
-  desk.click(desk.window.mnuSuchen);
-  desk.type(desk.window.txtSuche, "rad");
-  desk.document.replaceSelection("Rad, ");
-  for (const char* const seen : {"5+0 1 Treffer", "5+0 2 Treffer"}) {
-    desk.tick();
-    EXPECT_EQ(desk.seen(), seen);
-  }
-  desk.document.select({.start = 5, .length = 3});
-  desk.tick();
-  EXPECT_EQ(desk.seen(), "5+3 2 von 2");
 }
 
 }  // namespace

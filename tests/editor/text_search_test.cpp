@@ -26,11 +26,4 @@ TEST(TextSearch, FindsAllPlacesWhateverTheCase) {
   }
 }
 
-TEST(TextSearch, BeginsAtAPlace) {
-  EXPECT_EQ(editor::find(U"wort wort", U"wort", 0), 0);
-  EXPECT_EQ(editor::find(U"wort wort", U"wort", 1), 5);
-  EXPECT_EQ(editor::find(U"wort wort", U"wort", 6), std::nullopt);
-  EXPECT_EQ(editor::find(U"wort", U"wort", 99), std::nullopt);
-}
-
 }  // namespace

@@ -43,6 +43,10 @@ struct Planner : support::Session {
     planner.TerminText.text = text;
     click(planner.Erzeugen);
   }
+  [[nodiscard]] std::string fields() const {
+    return planner.TerminText.text + " " + planner.Tage.text + "." + planner.Monate.text + "." + planner.Jahre.text +
+           " " + planner.Stunden.text + ":" + planner.Minuten.text;
+  }
   void expectReminder(const std::string& title, const std::function<void()>& whileOpen = {}) {
     platform.expectModal("frmMsgBox", [this, title, whileOpen](base::Window& /*shown*/) {
       EXPECT_EQ(parts.reminder.lblTermin.text + " " + parts.reminder.lblText.text, title);
@@ -74,7 +78,7 @@ TEST(Planner, aLineNamesItsMomentByPlace) {
       EXPECT_EQ(keyOf(momentOf(text), {".", ":"}), text.starts_with("24/") ? "24.12.2004   14:30" : text.substr(0, 18));
     }
   }
-  EXPECT_EQ(validDate("7", "1", "85")->year, 1985);
+  EXPECT_EQ(validDate("7", "1", "30")->year - validDate("7", "1", "29")->year, 1930 - 2029);
   EXPECT_FALSE(validDate("1", "1", "20045") || validDate("1", "99999999999", "2004"));
   EXPECT_EQ(toldText("24.12.2004   14:30   ü  x "), "ü  x");
   EXPECT_EQ(minutesBetween({.year = 2004, .month = 2, .day = 28, .hour = 23, .minute = 59, .second = 59},
@@ -86,8 +90,9 @@ TEST(Planner, theFileIsReadUpToAGapAndRewrittenInOrder) {
   const TemporaryDirectory directory;
   const std::string longText(300, 'x');
   Planner planner(directory, "[Andere]\r\na=b\r\n[Termine]\r\n0=" + line("20.12.2034   10:00", "b") +
-                                 "\r\n1=" + line("05.01.2035   10:00", longText) + "\r\n3=" +
-                                 line("01.01.2035   10:00", "verloren") + "\r\n[TermineAlt]\r\n0=alt\r\n1=Alt\r\n");
+                                 "\r\n1=" + line("05.01.2035   10:00", longText) +
+                                 "\r\n3=" + line("01.01.2035   10:00", "verloren") +
+                                 "\r\n[TermineAlt]\r\n0=alt\r\n1=Alt\r\n[termine]\r\n0=zweimal\r\n");
   planner.open();
   EXPECT_EQ(planner.file(), "[Andere]\r\na=b\r\n[Termine]\r\n0=" + line("05.01.2035   10:00", longText.substr(0, 229)) +
                                 "\r\n1=" + line("20.12.2034   10:00", "b") + "\r\n[TermineAlt]\r\n0=Alt\r\n1=alt\r\n");
@@ -103,29 +108,34 @@ TEST(Planner, appointmentsAreEnteredOnceAndRefusedWithAWord) {
   Planner planner(directory);
   planner.open();
   EXPECT_FALSE(std::filesystem::exists(directory.path("Termine.ini")));
+  planner.planner.Jahre.text = "0";
+  planner.program.wiring.fire(planner.planner.Jahre, Event::leaving);
+  EXPECT_TRUE(planner.planner.Jahre.text == "1990" && planner.planner.Jahre.wantsFocus);
   struct Row {
     std::array<std::string, 5> fields;
     std::string text;
     base::Message message;
     int beeps;
+    base::Control* focus = nullptr;
   };
   const std::vector<Row> rows = {
-      {{"1", "1", "2005", "", "0"}, "x", {.text = "Eingabe unvollständig"}, 0},
-      {{"29", "02", "2005", "10", "00"}, "x", {.text = "     Falsches Datum!"}, 1},
-      {{"29", "02", "2004", "10", "00"}, " ", {.text = "Keinen Text eingegeben!"}, 1},
-      {{"29", "02", "2004", "10", "00"}, "Zahnarzt \"gut\"\r\nx", {}, 0},
+      {{"", "1", "2005", "", "0"}, "x", {.text = "Eingabe unvollständig"}, 0, &planner.planner.Stunden},
+      {{"29", "02", "2005", "10", "00"}, "x", {.text = "     Falsches Datum!"}, 1, &planner.planner.Tage},
+      {{"29", "02", "2004", "10", "00"}, " ", {.text = "Keinen Text eingegeben!"}, 1, &planner.planner.TerminText},
+      {{"29", "02", "2004", "10", "00"}, "Zahnarzt\t\"gut\"\r\nx", {}, 0, &planner.planner.TerminText},
       {{"29", "2", "2004", "10", "0"},
        "Zahnarzt \"gut\" x",
        {.text = "Eintrag bereits vorhanden", .title = "Achtung!"},
        0},
-      {{"29", "2", "2004", "10", "0"}, "ZAHNARZT \"gut\" x", {}, 0},
-      {{"15", "12", "2004", "8", "5"}, "Ärger", {}, 0},
+      {{"29", "2", "2004", "10", "0"}, "ZAHNARZT \"gut\" x", {}, 0, &planner.planner.TerminText},
+      {{"15", "12", "2004", "8", "5"}, "Ärger", {}, 0, &planner.planner.TerminText},
   };
   for (const Row& row : rows) {
     if (!row.message.text.empty()) planner.platform.expectMessage(row.message);
     planner.platform.beeps = 0;
     planner.enter(row.fields, row.text);
     EXPECT_EQ(planner.platform.beeps, row.beeps) << row.text;
+    EXPECT_TRUE(row.focus == nullptr || std::exchange(row.focus->wantsFocus, false)) << row.message.text;
   }
   const base::ItemList& lines = planner.planner.Liste.items;
   ASSERT_EQ(lines.size(), 3);
@@ -133,7 +143,7 @@ TEST(Planner, appointmentsAreEnteredOnceAndRefusedWithAWord) {
   EXPECT_EQ(lines[1], line("29.02.2004   10:00", "ZAHNARZT \"gut\" x")) << "in front of its equal";
   EXPECT_EQ(planner.planner.Liste.current, 0);
   planner.program.wiring.fire(planner.planner.Liste, Event::doubleClick);
-  EXPECT_EQ(planner.planner.TerminText.text + planner.planner.Jahre.text + planner.planner.Minuten.text, "Ärger200405");
+  EXPECT_EQ(planner.fields(), "Ärger 15.12.2004 08:05");
   planner.platform.expectMessage(
       {.text = "Sie haben den Termin \"Ärger\" nicht hinzugefügt, möchten Sie ihn verwerfen?",
        .title = "Termin speichern",
@@ -164,7 +174,8 @@ TEST(Planner, appointmentsAreEnteredOnceAndRefusedWithAWord) {
 TEST(Planner, appointmentsAreMovedAndRemovedInTheListOnTop) {
   const TemporaryDirectory directory;
   Planner planner(directory, "[Termine]\n0=" + line("01.01.2030   10:00", "a") +
-                                 "\n1=" + line("02.01.2030   10:00", "b") + "\n2=" + line("03.01.2030   10:00", "c"));
+                                 "\n1=" + line("02.01.2030   10:00", "b") + "\n2=" + line("03.01.2030   10:00", "c") +
+                                 "\n3=" + line("04.01.2030   10:00", "d"));
   planner.open();
   PlannerWindow& window = planner.planner;
   planner.click(window.cmdMove);
@@ -180,15 +191,29 @@ TEST(Planner, appointmentsAreMovedAndRemovedInTheListOnTop) {
   planner.click(window.SSTab1);
   EXPECT_EQ(window.cmdMove.text + window.mnuMove.text, "&Neu anlegen&Neu anlegen");
   window.List1.current = 0;
-  planner.click(window.cmdMove);
-  EXPECT_EQ(window.TerminText.text + window.Tage.text + window.Minuten.text, "b2430");
+  planner.clock(25, 9, 45);
+  window.TerminText.text = "offen";
+  for (const MessageAnswer answer : {MessageAnswer::no, MessageAnswer::yes}) {
+    planner.platform.expectAnyMessage(answer);
+    planner.click(window.mnuMove);
+    EXPECT_EQ(planner.fields(), answer == MessageAnswer::no ? "offen 24.12.2004 14:30" : "b 25.12.2004 09:45");
+  }
+  std::filesystem::remove(directory.path("Termine.ini"));
   planner.platform.expectMessage({.text = "Sind Sie sicher das Sie alle alten Termine entfernen möchten?",
                                   .title = "Vergangene Termine löschen",
                                   .buttons = base::MessageButtons::yesNo},
+                                 MessageAnswer::no);
+  planner.click(window.Command4);
+  EXPECT_NE(planner.file().find("1=" + line("04.01.2030   10:00", "d") + "\r\n[TermineAlt]\r\n0="), std::string::npos);
+  planner.program.wiring.fire(window.List1, Event::keyDelete);
+  planner.click(window.Command4);
+  window.SSTab1.current = 0;
+  planner.platform.expectMessage({.text = "Sind Sie sicher das Sie alle Termine entfernen möchten?",
+                                  .title = "Termine löschen",
+                                  .buttons = base::MessageButtons::yesNo},
                                  MessageAnswer::yes);
-  planner.click(window.Command4);
-  planner.click(window.Command4);
-  EXPECT_EQ(planner.file(), "[Termine]\n0=" + line("01.01.2030   10:00", "a") + "\n");
+  planner.click(window.mnClearAll);
+  EXPECT_EQ(planner.file(), "");
 }
 
 TEST(Planner, missedAppointmentsAreAnnouncedInOrderWithTheFixedChime) {
@@ -197,6 +222,8 @@ TEST(Planner, missedAppointmentsAreAnnouncedInOrderWithTheFixedChime) {
                                  "\n1=" + line("24.12.2004   14:30", "b") + "\n2=" + line("24.12.2004   14:31", "c") +
                                  "\n3=" + line("29.02.2004   23:59", "d"));
   planner.platform.userSettings["AlarmAktiv"] = "1";
+  std::vector<std::string> before;  // the first message
+  planner.platform.onMessage = [&] { before = before.empty() ? planner.platform.log : before; };
   planner.expectMissed("Termin am 01.01.2004 um 10:00 Uhr", "a");
   planner.expectMissed("Termin am 24.12.2004 um 14:30 Uhr", "b");
   planner.expectMissed("Termin am 29.02.2004 um 23:59 Uhr", "d");
@@ -204,30 +231,31 @@ TEST(Planner, missedAppointmentsAreAnnouncedInOrderWithTheFixedChime) {
   EXPECT_EQ(planner.planner.List1.items.size(), 3);
   EXPECT_EQ(planner.planner.Liste.items[0], line("24.12.2004   14:31", "c"));
   EXPECT_NE(planner.file().find("[TermineAlt]\n0=01"), std::string::npos);
-  const auto& log = planner.platform.log;
-  EXPECT_EQ(std::vector(log.begin(), log.begin() + 3),
-            (std::vector<std::string>{"sound own Chimes.wav", "play",
-                                      "notify Termin am 01.01.2004 um 10:00 Uhr: Versäumt: a"}));
+  EXPECT_EQ(before, (std::vector<std::string>{"stop", "sound own Chimes.wav", "play",
+                                              "notify Termin am 01.01.2004 um 10:00 Uhr: Versäumt: a"}));
   EXPECT_EQ(planner.platform.beeps, 0);
 
-  directory.write("Termine.ini", "[Termine]\n0=" + line("01.01.2004   10:00", "a") + "\n1=kaputt");
-  planner.planner.isOpen = false;
   planner.platform.devices = 0;
-  planner.expectMissed("Termin am 01.01.2004 um 10:00 Uhr", "a");
-  planner.expectFailure(
-      "Eine Zeile der Termine beginnt nicht mit Datum und Uhrzeit. Bitte löschen Sie sie und tragen Sie den Termin neu "
-      "ein:\nkaputt");
-  planner.open();
-  EXPECT_NE(directory.read("Error.log").find("modGlobal-Alte_Einträge_löschen"), std::string::npos);
-  EXPECT_EQ(planner.planner.Liste.items.size() + planner.planner.List1.items.size(), 2);
-  EXPECT_EQ(planner.platform.beeps, 1);
+  for (const int beeps : {1, 0}) {
+    directory.write("Termine.ini", "[Termine]\n0=" + line("01.01.2004   10:00", "a") + "\n1=kaputt");
+    planner.planner.isOpen = false;
+    planner.platform.userSettings["AlarmAktiv"] = std::to_string(beeps);
+    planner.expectMissed("Termin am 01.01.2004 um 10:00 Uhr", "a");
+    planner.expectFailure(
+        "Eine Zeile der Termine beginnt nicht mit Datum und Uhrzeit. Bitte löschen Sie sie und tragen Sie den Termin neu "
+        "ein:\nkaputt");
+    planner.open();
+    EXPECT_NE(directory.read("Error.log").find("modGlobal-Alte_Einträge_löschen"), std::string::npos);
+    EXPECT_EQ(planner.planner.Liste.items.size() + planner.planner.List1.items.size(), 2);
+    EXPECT_EQ(std::exchange(planner.platform.beeps, 0), beeps);
+  }
 }
 
 TEST(Planner, dueAppointmentsAreAnnouncedOnceAndNoneBehindAReminder) {
   const TemporaryDirectory directory;
   Planner planner(directory, "[Termine]\n0=" + line("25.12.2004   00:00", "a") +
                                  "\n1=" + line("25.12.2004   00:00", "b") + "\n2=" + line("25.12.2004   00:04", "c") +
-                                 "\n3=" + line("25.12.2004   00:11", "d"));
+                                 "\n3=" + line("25.12.2004   00:11", "d") + "\n4=" + line("25.12.2004   00:13", "e"));
   planner.platform.userSettings["TermineBeimStart"] = "1";
   planner.program.settings.reminderSound = "eigene.wav";
   planner.platform.playsSounds = false;
@@ -249,14 +277,18 @@ TEST(Planner, dueAppointmentsAreAnnouncedOnceAndNoneBehindAReminder) {
   planner.expectMissed("Termin am 25.12.2004 um 00:04 Uhr", "c");
   planner.clock(25, 0, 10, 7);
   planner.tick();
-  planner.clock(25, 0, 11, 0);
-  planner.expectReminder("Termin am 25.12.2004 um 00:11 Uhr d");
+  planner.clock(25, 0, 12);
+  planner.expectMissed("Termin am 25.12.2004 um 00:11 Uhr", "d");
+  planner.tick();
+  planner.clock(25, 0, 13);
+  planner.expectReminder("Termin am 25.12.2004 um 00:13 Uhr e");
   planner.tick();
   planner.tick();
+  EXPECT_EQ(std::count(planner.platform.log.begin(), planner.platform.log.end(), "sound eigene.wav"), 3);
   EXPECT_TRUE(planner.planner.Timer1.running);
   EXPECT_FALSE(planner.program.windows.main.imgTimer.visible);
   EXPECT_EQ(planner.file().find("[Termine]"), std::string::npos);
-  EXPECT_NE(planner.file().find("3=" + line("25.12.2004   00:11", "d")), std::string::npos);
+  EXPECT_NE(planner.file().find("4=" + line("25.12.2004   00:13", "e")), std::string::npos);
 }
 
 TEST(Planner, whatNobodyReadIsAnnouncedAgain) {

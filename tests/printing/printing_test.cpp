@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "printing/offer.h"
+#include "printing/output.h"
 #include "printing/printouts.h"
 #include "support/session.h"
 
@@ -77,9 +78,20 @@ TEST_F(Printing, AnOfferTellsWhatItsSwitchesSay) {
 
 TEST_F(Printing, TheOfferDialogKeepsWhatWasEntered) {
   auto& window = desk.program.windows.offer;
+  desk.platform.printers = 0;  // a preview needs none, nor does a file
   desk.platform.userSettings = {{"Kunde", "Alt"}, {"S1", "1"}, {"S4", "0"}};
   desk.platform.expectModal("frmAngebot", [&](base::Window&) {
     EXPECT_TRUE(window.txtKunde.text == "Alt" && window.chkS1.checked && !window.chkS4.checked && window.chkS5.checked);
+    EXPECT_EQ(window.lblAngebot.text, "Angebot über 13 Zeichen, 50 mm hoch, 300 Stück, netto 4875,00 EUR");
+    const std::pair<base::CheckBox*, std::string> switches[] = {
+        {&window.chkS1, "Preis je Zeichen"}, {&window.chkS2, "Textlänge"}, {&window.chkS3, "Preis, netto"},
+        {&window.chkS4, "=Netto gesamt:"},   {&window.chkS5, "=Brutto"},   {&window.chkS6, "gesamt in DM"}};
+    for (const auto& [only, row] : switches) {
+      for (const auto& [each, told] : switches) each->checked = each == only;
+      const std::string preview = testing::PrintToString(shown(lastOf(window.cmdVorschau)));
+      for (const auto& [each, told] : switches) EXPECT_EQ(preview.find(told) != preview.npos, each == only) << told;
+    }
+    window.chkS1.checked = window.chkS5.checked = true, window.chkS6.checked = false;
     window.txtKunde.text = "Neu";
     window.chkS7.checked = true;
     desk.platform.expectFileDialog("PDF-Dokument (*.pdf)|*.pdf", directory.path("fehlt/Angebot"));
@@ -101,8 +113,14 @@ TEST_F(Printing, TheOfferDialogKeepsWhatWasEntered) {
 }
 
 TEST_F(Printing, DocumentAndContainerAreHeadedByTheMoment) {
-  EXPECT_EQ(shown(lastOf(desk.window.mnuPrint)),
-            (Lines{"Tessik 1.4 / Dokument - Ausdruck vom 21.11.2026 um 09:05:00", "ABCDE FGHIJ|KL|"}));
+  for (const auto& [file, name, pdf] :
+       {std::array{"", "Dokument", "Dokument.pdf"}, {"/texte/Brief.neu.rtf", "Brief.neu.rtf", "Brief.neu.pdf"}}) {
+    desk.program.document.file = file;
+    EXPECT_EQ(
+        shown(lastOf(desk.window.mnuPrint)),
+        (Lines{std::string("Tessik 1.4 / ") + name + " - Ausdruck vom 21.11.2026 um 09:05:00", "ABCDE FGHIJ|KL|"}));
+    EXPECT_EQ(printing::pdfNameOf(file, "Dokument"), pdf);
+  }
   container.rtfTextC.setDocument(base::plainDocument("eins\nzwei", {.points = 20, .bold = true, .colour = 0xFF0000}));
   const std::string heading = "Tessik 1.4 / Container - Ausdruck vom 21.11.2026 um 09:05:00";
   const PrintJob whole = lastOf(container.mnuPrint);

@@ -58,6 +58,7 @@ ScriptedPlatform::Question ScriptedPlatform::next(const std::string& asked) {
 
 base::MessageAnswer ScriptedPlatform::messageBox(const base::Message& message) {
   const Question question = next(message.text);
+  if (onMessage) onMessage();
   if (question.isAny) return question.answer;
   EXPECT_EQ(question.message.text, message.text);
   EXPECT_EQ(question.message.title, message.title);

@@ -50,6 +50,7 @@ class ScriptedPlatform : public base::Platform {
   std::vector<std::string> log;
   /// Runs at each refresh: a test looks at what stands on the screen in the middle of long work.
   std::function<void()> onRefresh;
+  std::function<void()> onMessage;  // while it stands there
   std::map<std::string, std::string, std::less<>> userSettings;
   base::DateTime moment{.year = 2026, .month = 11, .day = 21, .hour = 9, .minute = 5, .second = 0};
   base::SystemInformation system;
@@ -95,7 +96,7 @@ class ScriptedPlatform : public base::Platform {
   [[nodiscard]] int soundDevices() const override { return devices; }
   bool openSound(const std::string& path) override { return log.push_back("sound " + path), playsSounds; }
   void playSound() override { log.push_back("play"); }
-  void stopSound() override { throw base::Failure(base::ErrorNumber::invalidCall); }
+  void stopSound() override { log.emplace_back("stop"), throw base::Failure(base::ErrorNumber::invalidCall); }
   void closeSound() override { throw base::Failure(base::ErrorNumber::invalidCall); }
   [[nodiscard]] std::string ownFile(std::string_view name) const override { return "own " + std::string(name); }
   void notify(const base::Notification& told) override { log.push_back("notify " + told.title + ": " + told.text); }

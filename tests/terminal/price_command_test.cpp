@@ -60,14 +60,6 @@ TEST_F(PriceCommand, PricesWithTheStoredSettings) {
             "Bruttopreis in DM                85,08 DM\n");
 }
 
-TEST_F(PriceCommand, WritesTheOfferAsPdfFile) {
-  const std::string file = directory.path("Angebot.pdf");
-  const Outcome outcome = run({"--text", "ABC", "--kunde", "Maß", "--pdf", file});
-  EXPECT_EQ(outcome.out + outcome.error, "");
-  EXPECT_TRUE(directory.read("Angebot.pdf").starts_with("%PDF-"));
-  EXPECT_EQ(run({"--text", "ABC", "--pdf", directory.path("fehlt/x.pdf")}).exitCode, terminal::kExitFailure);
-}
-
 TEST_F(PriceCommand, PrintsTheNoteThatTheContainerReceives) {
   const Outcome outcome = run({"--text", "ABCDE\nFGHIJ", "--stueck", "3", "--notiz"});
   EXPECT_EQ(outcome.out,
@@ -164,6 +156,7 @@ TEST_F(PriceCommand, TellsWrongArgumentsFromFailures) {
       {{"--daten=" + directory.path("fehlt")}, 2, "--daten steht zweimal da"},
       {{"--aufpreis-betrag", "5", "--notiz"}, 1, "Division durch Null"},
       {{"--datei", directory.path("fehlt.txt")}, 1, "Die Datei wurde nicht gefunden."},
+      {{"--text", "a", "--pdf", directory.path("fehlt/x.pdf")}, 1, "Das Verzeichnis wurde nicht gefunden."},
   };
   for (const Row& row : rows) {
     const Outcome outcome = run(row.arguments);

@@ -215,7 +215,8 @@ TEST(Walk, AClosedWindowKeepsTheLetteringUntilItIsAnsweredFor) {
   QMetaObject::invokeMethod(&walk.desktop->mainForm(), &QWidget::close, Qt::QueuedConnection);
   QTest::qWait(150);
   EXPECT_FALSE(walk.desktop->hasEnded());
-  walk.expectBox("Möchten Sie die Änderungen speichern?", QMessageBox::Cancel);
+  walk.expectBox("Möchten Sie die Änderungen speichern?", QMessageBox::Yes);
+  walk.whenAsked([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
   QMetaObject::invokeMethod(&walk.desktop->mainForm(), &QWidget::close, Qt::QueuedConnection);
   QTest::qWait(100);
   EXPECT_FALSE(walk.desktop->hasEnded());

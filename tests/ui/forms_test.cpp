@@ -44,14 +44,6 @@ TEST(Forms, TabReachesEverythingInEachWindow) {
   });
 }
 
-TEST(Forms, ABoundMenuKeepsItsSeparators) {
-  frame::MainWindow window;
-  ui::MainForm form;
-  EXPECT_EQ(ui::mismatches(window, form), kNone);
-  const QList<QAction*> entries = form.findChild<QMenu*>(QStringLiteral("fixDatei"))->actions();
-  EXPECT_EQ(std::count_if(entries.begin(), entries.end(), [](QAction* each) { return each->isSeparator(); }), 4);
-}
-
 // Whoever cannot see the window hears what each field is for.
 TEST(Forms, EveryInputOfTheMainWindowHasANameToSay) {
   const ui::MainForm form;

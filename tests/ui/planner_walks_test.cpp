@@ -31,6 +31,12 @@ TEST(Walk, AnAppointmentIsEnteredWatchedAndAnnounced) {
   PlannerWalk walk(shop);
   walk.openPlanner();
   EXPECT_EQ(Walk::focus(), "TerminText");
+  for (const char* const next : {"Erzeugen", "Tage", "Monate", "Jahre", "Stunden", "Minuten", "qt_tabwidget_tabbar",
+                                 "Liste", "cmdMove", "loeschen", "Command4", "Check_Beep", "Check_Start", "cmdPrint"}) {
+    walk.press(Qt::Key_Tab);
+    EXPECT_EQ(Walk::focus(), next);
+  }
+  EXPECT_EQ(walk.widget<QListView>("Liste").actions(), walk.widget<QListView>("List1").actions());
   EXPECT_EQ(walk.text("Tage") + walk.text("Monate") + walk.text("Jahre") + walk.text("Stunden"), "2802203011");
   walk.fill("Minuten", "75");
   EXPECT_EQ(walk.text("Minuten"), "59");
@@ -78,6 +84,7 @@ TEST(Walk, AnAppointmentIsEnteredWatchedAndAnnounced) {
   walk.whenAsked([&](QDialog& dialog) {
     EXPECT_EQ(dialog.findChild<QLabel*>("lblTermin")->text().toStdString(), "Termin am 28.02.2030 um 12:07 Uhr");
     EXPECT_EQ(dialog.windowTitle().left(26).toStdString(), "Erinnerung am 28.02.2030 u");
+    EXPECT_TRUE(dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     for (const Qt::Key typed : {Qt::Key_A, Qt::Key_Space}) QTest::keyClick(dialog.focusWidget(), typed);
     EXPECT_TRUE(dialog.isVisible()) << "in the middle of a text";
     QTest::mouseClick(dialog.findChild<QPushButton*>("command1"), Qt::LeftButton);

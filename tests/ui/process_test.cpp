@@ -1,7 +1,9 @@
-// The program as a process of its own: how it starts and ends, and what it leaves on disk.
+// The program as a process of its own: how it starts and ends, what it leaves on disk, and what it starts itself.
 #include <gtest/gtest.h>
 
 #include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
 #include <csignal>
 #include <filesystem>
 #include <map>
@@ -9,6 +11,10 @@
 
 #include "support/session.h"
 #include "support/temporary_directory.h"
+#include "ui/printing/mail.h"
+#include "ui/sound_player.h"
+#include "ui/utf8.h"
+#include "walk.h"
 
 namespace ui {
 namespace {
@@ -77,6 +83,38 @@ TEST_F(ProgramProcess, AWrongArgumentIsToldAndEndsWithTwo) {
   const QByteArray told = process.readAllStandardError();
   EXPECT_TRUE(told.contains("fehlt")) << told.toStdString();
   EXPECT_EQ(exitCode({"--datne"}), 2);
+}
+
+TEST_F(ProgramProcess, AnOfferIsWrittenWithoutAScreen) {
+  std::filesystem::create_directories(directory.path("config/Tessik"));
+  directory.write("config/Tessik/Tessik.conf", "[Prog]\nFA=Schilder Öz\nKunde=Alt\nS1=1\n");
+  const std::string file = directory.path("a.pdf");
+  QProcessEnvironment bare = process.processEnvironment();
+  bare.insert("QT_QPA_PLATFORM", "xcb"), bare.remove("DISPLAY");
+  process.setProcessEnvironment(bare);
+  exitCode({"kalkuliere", "--text", "ABC", "--kunde", "Maß", "--kommentar", "Gern", "--pdf", toQString(file)});
+  const QString text = pdfText(file);
+  EXPECT_TRUE(text.contains(QRegularExpression("(?s)^Schilder Öz.*Maß.*Gern.*ABC.*Preis je"))) << toUtf8(text);
+}
+
+TEST(OtherPrograms, GetTheirFilesAndMayFail) {
+  const support::TemporaryDirectory directory;
+  for (const char* const name : {"paplay", "xdg-email"}) {
+    directory.write(name, "#!/bin/sh\nprintf '%s|' \"$@\" >'" + directory.path("told") + "'\n");
+    std::filesystem::permissions(directory.path(name), std::filesystem::perms::owner_all);
+  }
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", QByteArray::fromStdString(directory.path("")));
+  composeMail("/tmp/a b.pdf", "Angebot für Maß");
+  EXPECT_EQ(directory.read("told"), "--utf8|--subject|Angebot für Maß|--attach|/tmp/a b.pdf|");
+  SoundPlayer player;
+  EXPECT_FALSE(player.open(directory.path("told"))) << "no wave file";
+  EXPECT_TRUE(player.open(ownChime()));
+  player.play();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return directory.read("told") == ownChime() + "|"; }));
+  directory.write("xdg-email", "#!/bin/sh\nexit 3\n");
+  EXPECT_THROW(composeMail("", ""), base::Failure);
+  qputenv("PATH", path);
 }
 
 }  // namespace

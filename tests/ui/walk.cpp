@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QProcess>
 #include <QSettings>
 #include <QTextEdit>
 #include <algorithm>
@@ -36,6 +37,13 @@ Premises::Premises() {
 }
 
 void Premises::write(const std::string& name, std::string_view bytes) const { directory.write("daten/" + name, bytes); }
+
+QString pdfText(const std::string& file) {
+  QProcess reader;
+  reader.start("pdftotext", {"-layout", toQString(file), "-"});
+  EXPECT_TRUE(reader.waitForFinished());
+  return QString::fromUtf8(reader.readAllStandardOutput());
+}
 
 Shop::Shop() {
   write("Ostrowerk.ini", kGeneral);
@@ -110,7 +118,7 @@ void Walk::turnTo(const base::Window& window) {
 }
 
 std::string Walk::text(const char* name) {
-  QWidget& shown = widget<QWidget>(name);
+  auto& shown = widget<QWidget>(name);
   if (const auto* const combo = qobject_cast<QComboBox*>(&shown)) return toUtf8(combo->currentText());
   if (const auto* const document = qobject_cast<QTextEdit*>(&shown)) return toUtf8(document->toPlainText());
   return toUtf8(shown.property("text").toString());

@@ -39,6 +39,9 @@ struct Shop : Premises {
   Shop();
 };
 
+/// The text of a PDF file as it is laid out, a form feed behind each page.
+QString pdfText(const std::string& file);
+
 /// Enters a name into a file dialog of the toolkit, which starts in the working directory, and agrees.
 void chooseFile(QDialog& dialog, const QString& file);
 
