@@ -242,7 +242,8 @@ TEST(Planner, missedAppointmentsAreAnnouncedInOrderWithTheFixedChime) {
     planner.platform.userSettings["AlarmAktiv"] = std::to_string(beeps);
     planner.expectMissed("Termin am 01.01.2004 um 10:00 Uhr", "a");
     planner.expectFailure(
-        "Eine Zeile der Termine beginnt nicht mit Datum und Uhrzeit. Bitte löschen Sie sie und tragen Sie den Termin neu "
+        "Eine Zeile der Termine beginnt nicht mit Datum und Uhrzeit. Bitte löschen Sie sie und tragen Sie den Termin "
+        "neu "
         "ein:\nkaputt");
     planner.open();
     EXPECT_NE(directory.read("Error.log").find("modGlobal-Alte_Einträge_löschen"), std::string::npos);

@@ -11,7 +11,8 @@
 
 #include "support/session.h"
 #include "support/temporary_directory.h"
-#include "ui/printing/mail.h"
+#include "ui/desktop_tools.h"
+#include "ui/own_files.h"
 #include "ui/sound_player.h"
 #include "ui/utf8.h"
 #include "walk.h"
@@ -99,7 +100,7 @@ TEST_F(ProgramProcess, AnOfferIsWrittenWithoutAScreen) {
 
 TEST(OtherPrograms, GetTheirFilesAndMayFail) {
   const support::TemporaryDirectory directory;
-  for (const char* const name : {"paplay", "xdg-email"}) {
+  for (const char* const name : {"paplay", "xdg-email", "xdg-open"}) {
     directory.write(name, "#!/bin/sh\nprintf '%s|' \"$@\" >'" + directory.path("told") + "'\n");
     std::filesystem::permissions(directory.path(name), std::filesystem::perms::owner_all);
   }
@@ -107,14 +108,21 @@ TEST(OtherPrograms, GetTheirFilesAndMayFail) {
   qputenv("PATH", QByteArray::fromStdString(directory.path("")));
   composeMail("/tmp/a b.pdf", "Angebot für Maß");
   EXPECT_EQ(directory.read("told"), "--utf8|--subject|Angebot für Maß|--attach|/tmp/a b.pdf|");
+  showFile("/tmp/ü.html");
+  EXPECT_EQ(directory.read("told"), "/tmp/ü.html|");
+  const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
+  qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(directory.path("")));
+  std::filesystem::create_directory(directory.path("pulse"));
+  directory.write("pulse/native", "");
+  const std::string chime = ownFile("Chimes.wav");
   SoundPlayer player;
   EXPECT_FALSE(player.open(directory.path("told"))) << "no wave file";
-  EXPECT_TRUE(player.open(ownChime()));
+  EXPECT_TRUE(player.open(chime));
   player.play();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return directory.read("told") == ownChime() + "|"; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return directory.read("told") == chime + "|"; }));
   directory.write("xdg-email", "#!/bin/sh\nexit 3\n");
   EXPECT_THROW(composeMail("", ""), base::Failure);
-  qputenv("PATH", path);
+  qputenv("PATH", path), qputenv("XDG_RUNTIME_DIR", runtime);
 }
 
 }  // namespace
