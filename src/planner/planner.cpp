@@ -317,7 +317,9 @@ void wireCommands(base::Wiring& wiring, const PlannerParts& parts) {
     wiring.on(entry, Event::click, procedure);
   };
   command(window.Erzeugen, window.mnuHinzufügen, reported(parts, "Termine-Erzeugen", create));
-  command(window.cmdMove, window.mnuMove, reported(parts, "Termine-cmdMove", move));
+  const auto moveShown = reported(parts, "Termine-cmdMove", move);
+  command(window.cmdMove, window.mnuMove, moveShown);
+  wiring.on(window.List1, Event::keyEnter, moveShown);
   const auto remove = reported(parts, "Termine-loeschen", removeSelected);
   command(window.loeschen, window.mnuLöschen, remove);
   command(window.Command4, window.mnClearAll, reported(parts, "Termine-Command4AllesLöschen", clearShown));

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -46,6 +47,21 @@ TEST_F(InputFilterTest, HoldsBackWhatComesDuringAShortProcedureAndLosesNothing) 
   EXPECT_EQ(edit.text(), "!" + QString(100, 'x') + "ab");
   EXPECT_EQ(clicks, 1);
   EXPECT_FALSE(button.isDown() || filter.escapePressed());
+}
+
+TEST_F(InputFilterTest, HoldsBackWhatWasMeantForAWindowBehindADialog) {
+  gate.userEvent([this] {
+    hurry();
+    QDialog box;
+    QLineEdit field(&box);
+    box.setModal(true);
+    box.show();
+    const Gate::ModalWait wait(gate);
+    filter.release();
+    QTest::keyClicks(&field, "!");
+    EXPECT_EQ(edit.text() + field.text(), "!");
+  });
+  EXPECT_EQ(edit.text(), "ab");
 }
 
 TEST_F(InputFilterTest, DropsWhatComesDuringLongWorkButNotesEscape) {

@@ -1,8 +1,11 @@
 // The filter that keeps input from the widgets while a procedure runs.
 #include "ui/binding/input_filter.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
+#include <QWidget>
+#include <QWindow>
+#include <algorithm>
 
 namespace ui {
 namespace {
@@ -44,6 +47,23 @@ bool isEscape(const QEvent& event) {
   return event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
+const QWidget* windowOf(const QObject* receiver) {
+  if (const auto* const widget = qobject_cast<const QWidget*>(receiver)) return widget->window();
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto found =
+      std::find_if(windows.begin(), windows.end(), [=](QWidget* each) { return each->windowHandle() == receiver; });
+  return found == windows.end() ? nullptr : *found;
+}
+
+// Whether a dialog keeps input from the receiver, as the toolkit does with what comes fresh.
+bool isBehindDialog(const QObject* receiver) {
+  const QWidget* const dialog = QApplication::activeModalWidget();
+  const QWidget* window = dialog == nullptr ? nullptr : windowOf(receiver);
+  if (window == nullptr) return false;
+  while (window != dialog && window->parentWidget() != nullptr) window = window->parentWidget()->window();
+  return window != dialog;
+}
+
 }  // namespace
 
 InputFilter::InputFilter(const Gate& gate) : gate_(gate) { QCoreApplication::instance()->installEventFilter(this); }
@@ -74,12 +94,16 @@ void InputFilter::drop(QEvent& event) {
   event.setAccepted(event.type() == QEvent::ShortcutOverride);
 }
 
-// One after the other: what is delivered runs a procedure, whose end asks for the next.
+// One after the other, and past what waits behind a dialog: what is delivered runs a procedure, whose end asks for the
+// next.
 void InputFilter::release() {
   if (std::exchange(isReleasing_, true)) return;
-  while (!held_.empty() && gate_.isOpen()) {
-    const auto [receiver, event] = std::move(held_.front());
-    held_.pop_front();
+  while (gate_.isOpen()) {
+    const auto next =
+        std::find_if(held_.begin(), held_.end(), [](const auto& each) { return !isBehindDialog(each.first); });
+    if (next == held_.end()) break;
+    const auto [receiver, event] = std::move(*next);
+    held_.erase(next);
     if (receiver != nullptr) QCoreApplication::sendEvent(receiver, event.get());
   }
   isReleasing_ = false;

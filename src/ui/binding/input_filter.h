@@ -25,7 +25,8 @@ class InputFilter : public QObject {
   [[nodiscard]] bool escapePressed() const { return escapePressed_; }
   /// Long work begins: an Esc from before does not count.
   void forgetEscape() { escapePressed_ = false; }
-  /// Delivers what was held back, as far as the gate is open.
+  /// Delivers what was held back, as far as the gate is open; what is meant for a window behind a dialog waits for
+  /// that.
   void release();
 
  private:
