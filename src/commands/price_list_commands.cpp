@@ -13,8 +13,13 @@ namespace {
 using base::Event;
 
 pricelists::PriceTable editorOf(const MainParts& parts) {
-  return pricelists::priceEditor(parts.priceEditor, parts.csvImport, parts.paths, parts.settings.rates, parts.platform,
-                                 parts.reporter);
+  return {.window = parts.priceEditor,
+          .kind = pricelists::kPriceEditor,
+          .csvImport = parts.csvImport,
+          .paths = parts.paths,
+          .rates = parts.settings.rates,
+          .platform = parts.platform,
+          .reporter = parts.reporter};
 }
 
 pricelists::RollGoods goodsOf(const MainParts& parts) {

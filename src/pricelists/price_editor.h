@@ -12,8 +12,7 @@ struct PriceEditorWindow : PriceTableWindow {
 };
 
 /// What the editor of the price list works on; all of it outlives the wiring.
-PriceTable priceEditor(PriceEditorWindow& window, CsvImportWindow& csvImport, const settings::Paths& paths,
-                       const settings::Rates& rates, base::Platform& platform, errors::Reporter& reporter);
+extern const PriceTableKind kPriceEditor;
 
 /// Opens the editor, with `recovered` rows if there are any, and waits until it is closed; true when the list was
 /// saved.
