@@ -64,6 +64,20 @@ TEST_F(InputFilterTest, HoldsBackWhatWasMeantForAWindowBehindADialog) {
   EXPECT_EQ(edit.text(), "ab");
 }
 
+TEST_F(InputFilterTest, HeldInputThatOpensADialogDoesNotKeepTheDialogWaiting) {
+  QLineEdit field;
+  const auto inTheDialog = [&] { QTest::keyClicks(&field, "!"); };
+  QObject::connect(&button, &QPushButton::clicked, [&] {
+    gate.userEvent([&] {
+      const Gate::ModalWait wait(gate);
+      gate.userEvent(inTheDialog);
+      EXPECT_EQ(field.text(), "!");
+    });
+  });
+  gate.userEvent([this] { hurry(); });
+  EXPECT_EQ(edit.text() + field.text(), "ab!");
+}
+
 TEST_F(InputFilterTest, DropsWhatComesDuringLongWorkButNotesEscape) {
   gate.userEvent([this] {
     gate.setWorking(true);

@@ -44,6 +44,8 @@ class Gate {
   [[nodiscard]] bool isOpen() const { return !isBusy_ && !isWriting_; }
   /// No procedure has begun that has not ended, not in a modal wait either.
   [[nodiscard]] bool isFree() const { return depth_ == 0 && isOpen(); }
+  /// How many procedures have begun and not ended.
+  [[nodiscard]] int depth() const { return depth_; }
   /// Input is to be dropped: the procedure that runs is at long work.
   [[nodiscard]] bool isDropping() const { return isBusy_ && isWorking_; }
   [[nodiscard]] bool isWriting() const { return isWriting_; }

@@ -95,9 +95,10 @@ void InputFilter::drop(QEvent& event) {
 }
 
 // One after the other, and past what waits behind a dialog: what is delivered runs a procedure, whose end asks for the
-// next.
+// next. Where that procedure waits in a dialog, those of the dialog ask for what is theirs.
 void InputFilter::release() {
-  if (std::exchange(isReleasing_, true)) return;
+  if (releasingAt_ == gate_.depth()) return;
+  const int outer = std::exchange(releasingAt_, gate_.depth());
   while (gate_.isOpen()) {
     const auto next =
         std::find_if(held_.begin(), held_.end(), [](const auto& each) { return !isBehindDialog(each.first); });
@@ -106,7 +107,7 @@ void InputFilter::release() {
     held_.erase(next);
     if (receiver != nullptr) QCoreApplication::sendEvent(receiver, event.get());
   }
-  isReleasing_ = false;
+  releasingAt_ = outer;
 }
 
 }  // namespace ui

@@ -38,7 +38,7 @@ class InputFilter : public QObject {
   std::deque<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> held_;
   bool escapePressed_ = false;
   KeyRepeat escapeRepeat_;
-  bool isReleasing_ = false;
+  int releasingAt_ = -1;  // the gate's depth
 };
 
 }  // namespace ui
