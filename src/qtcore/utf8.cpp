@@ -7,7 +7,6 @@
 #include "base/text.h"
 
 namespace qtcore {
-
 QString toQString(std::string_view utf8) {
   // The toolkit drops a leading mark and counts ill-formed bytes in its own way.
   if (base::isValidUtf8(utf8) && !utf8.starts_with(base::kUtf8Mark)) {
@@ -27,10 +26,13 @@ QString inShownLines(std::string_view utf8) {
 QString inWrappedLines(std::string_view utf8) {
   constexpr qsizetype kMost = 1200;
   constexpr qsizetype kLastPart = 300;
-  static const QRegularExpression longWord(QStringLiteral("(\\S{80})"));
+  // A path has its slashes to break at, and may be copied from the box.
+  static const QRegularExpression longWord(QStringLiteral("([^\\s/]{80})"));
   QString text = inShownLines(utf8);
   if (text.size() > kMost) {
-    text = text.left(kMost - kLastPart) + QStringLiteral(" … ") + text.right(kLastPart);
+    const auto atCharacter = [&](qsizetype unit) { return text.at(unit).isLowSurrogate() ? unit - 1 : unit; };
+    const qsizetype first = atCharacter(kMost - kLastPart);
+    text.replace(first, atCharacter(text.size() - kLastPart) - first, QStringLiteral(" … "));
   }
   return text.replace(longWord, QStringLiteral("\\1\u200b"));
 }

@@ -19,7 +19,6 @@
 #include "qtcore/clock.h"
 #include "qtcore/locale.h"
 #include "qtcore/user_settings.h"
-#include "qtcore/utf8.h"
 #include "qttext/pdf.h"
 #include "ui/appearance.h"
 #include "ui/desktop_notification.h"
@@ -122,8 +121,8 @@ base::MessageAnswer QtPlatform::messageBox(const base::Message& message) {
   if (isUnattended_) return answer(0, message.buttons);
   const Gate::ModalWait wait(gate_);
   setProgramIcon();
-  QMessageBox box(icon(message.icon), toQString(message.title), qtcore::inWrappedLines(message.text),
-                  buttons(message.buttons), windows_.inFront());
+  QMessageBox box(icon(message.icon), toQString(message.title), inWrappedLines(message.text), buttons(message.buttons),
+                  windows_.inFront());
   box.setTextFormat(Qt::PlainText);
   showWholeTitle(box);
   return answer(box.exec(), message.buttons);

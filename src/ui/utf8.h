@@ -6,6 +6,7 @@
 namespace ui {
 
 using qtcore::inShownLines;
+using qtcore::inWrappedLines;
 using qtcore::toQString;
 using qtcore::toUtf8;
 

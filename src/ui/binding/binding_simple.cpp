@@ -12,7 +12,6 @@
 #include <QVariant>
 #include <QWindow>
 
-#include "qtcore/utf8.h"
 #include "ui/utf8.h"
 
 namespace ui {
@@ -50,7 +49,7 @@ LabelBinding::LabelBinding(base::Label& model, QLabel& widget, const Context& co
 
 void LabelBinding::carryOwn() {
   if (text_.follow(model_.text)) {
-    widget_.setText(widget_.wordWrap() ? qtcore::inWrappedLines(model_.text) : inShownLines(model_.text));
+    widget_.setText(widget_.wordWrap() ? inWrappedLines(model_.text) : inShownLines(model_.text));
   }
   if (colour_.follow(model_.colour)) showColour();
 }
