@@ -77,13 +77,15 @@ std::string RecoveryCopy::read() const {
   return *std::move(bytes);
 }
 
-void RecoveryCopy::putAside() {
+std::string RecoveryCopy::putAside() {
   std::error_code ignored;
   std::string aside;
   for (int number = 1; number == 1 || fs::exists(aside, ignored); ++number) {
     aside = base::joinPath(directory_, "Verworfen-" + std::to_string(number).append(suffix_));
   }
-  fs::rename(path_, aside, ignored);
+  std::error_code error;
+  fs::rename(path_, aside, error);
+  return error ? path_ : aside;
 }
 
 void RecoveryCopy::remove() {

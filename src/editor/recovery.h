@@ -31,8 +31,8 @@ class RecoveryCopy {
   bool adopt();
   /// What the copy holds.
   [[nodiscard]] std::string read() const;
-  /// Puts an adopted copy aside under the first free name "Verworfen-1", "Verworfen-2", …
-  void putAside();
+  /// Puts an adopted copy aside under the first free name "Verworfen-1", "Verworfen-2", … and tells where it lies now.
+  std::string putAside();
   /// There is nothing to recover any more.
   void remove();
 

@@ -158,7 +158,7 @@ void loadBehindScreen(Program& program) {
   parts.platform.show(program.windows.main);
   editor::markSaved(program.document, program.windows.main.rtfText);
   errors::reporting(parts.reporter, kTimerTag, [&] { program.spelling.readOwnWords(); });
-  errors::reporting(parts.reporter, kTimerTag, [&] { offerRecovered(program); });
+  offerRecovered(program);
   if (!program.fileToOpen.empty()) commands::openFile(parts, program.fileToOpen);
   errors::reporting(parts.reporter, kTimerTag, [&] { commands::checkAppointments(parts); });
 }

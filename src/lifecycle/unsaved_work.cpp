@@ -149,18 +149,27 @@ void offer(Program& program, const KeptWork& kept, const std::string& left) {
        .icon = base::MessageIcon::question,
        .buttons = base::MessageButtons::yesNo});
   if (!program.windows.main.mayAsk) return;  // nobody answered: the next start asks again
-  if (answer != base::MessageAnswer::yes) return kept.copy.putAside();
+  if (answer != base::MessageAnswer::yes) {
+    kept.copy.putAside();
+    return;
+  }
   kept.show(left);
   kept.copy.keepsUpWith(kept.revision());
 }
 
+base::Failure toldWithPlace(const base::Failure& failure, const std::string& path) {
+  base::Failure told(failure.number(), failure.text() + "\nWas wiederhergestellt werden sollte, liegt hier:\n" + path);
+  told.stamp(failure.tag());
+  return told;
+}
+
+// What cannot be taken back waits under another name, or each start would fail anew.
 void offerRecovered(Program& program, const KeptWork& kept) {
   if (!kept.copy.adopt()) return;
   try {
     offer(program, kept, kept.copy.read());
-  } catch (const std::exception&) {
-    kept.copy.putAside();
-    throw;
+  } catch (const std::exception& fault) {
+    throw toldWithPlace(base::asFailure(fault), kept.copy.putAside());
   }
 }
 
@@ -209,7 +218,9 @@ bool mayLeave(Program& program) {
 
 void offerRecovered(Program& program) {
   program.windows.main.tmrSicherung = {.running = true, .intervalMilliseconds = kLookMilliseconds};
-  withEach(keptWork(program), [&program](const KeptWork& kept) { offerRecovered(program, kept); });
+  for (const KeptWork& kept : keptWork(program)) {
+    errors::reporting(program.reporter, "MAIN-Wiederherstellung", [&] { offerRecovered(program, kept); });
+  }
 }
 
 }  // namespace lifecycle

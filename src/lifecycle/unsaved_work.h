@@ -18,7 +18,7 @@ void keepForNextStart(Program& program);
 /// for; a save that fails or is left keeps the program open.
 bool mayLeave(Program& program);
 
-/// Offers what a program that did not end properly left behind.
+/// Offers what a program that did not end properly left behind; a failure is reported, with where that lies now.
 void offerRecovered(Program& program);
 
 }  // namespace lifecycle

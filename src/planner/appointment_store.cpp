@@ -11,6 +11,7 @@
 #include "base/files.h"
 #include "base/profile_file.h"
 #include "planner/appointment.h"
+#include "settings/settings_files.h"
 
 namespace planner {
 namespace {
@@ -93,6 +94,7 @@ void storeLists(const std::string& file, std::string_view lists) {
   base::ItemList old;
   present.assign(sortedSection(read, kPresent));
   old.assign(sortedSection(read, kOld));
+  settings::keepNumberedCopy(file);
   replaceLists(profile, present, old);
   profile.save(file);
 }

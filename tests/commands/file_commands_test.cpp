@@ -11,6 +11,7 @@
 #include <functional>
 #include <string>
 
+#include "base/files.h"
 #include "editor/document_file.h"
 #include "editor/recovery.h"
 #include "support/session.h"
@@ -235,6 +236,8 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
        "Sollen die nicht gespeicherten Änderungen an der Folienliste wiederhergestellt werden?"},
       {"Preise-1.pdb", "[Versalien]\n0=10\n[Preise]\n0=1.25 EUR\n",
        "Sollen die nicht gespeicherten Änderungen an der Preisliste wiederhergestellt werden?"}};
+  const std::string stored = "[Termine]\n0=24.12.2031   14:30       Alt\n";
+  directory.write("Termine.ini", stored);
   for (const bool isFirstWanted : {true, false}) {
     support::Session next(directory);
     lifecycle::Program& program = next.program;
@@ -266,6 +269,7 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
     EXPECT_EQ(windows.rollGoods.lblPreis.text, isFirstWanted ? "" : "0,00 EUR");
     EXPECT_EQ(windows.planner.Liste.items.size(), isFirstWanted ? 1 : 0);
     EXPECT_EQ(inFile(isFirstWanted ? "Verworfen-1.rtf" : "Verworfen-2.rtf"), isFirstWanted ? "Notiz" : "Huber");
+    EXPECT_EQ(directory.read("Termine.ini.1"), stored) << "another program may have written it since";
     windows.eachWindow([](base::Window& each) { each.mayAsk = false; });
     next.end();
     // Appointments are written as they are taken back.
@@ -277,6 +281,19 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
       EXPECT_EQ(std::filesystem::remove(copy->path()), stays) << copy->path();
     }
   }
+}
+
+TEST_F(Files, WhatCannotBeTakenBackLiesWhereItIsTold) {
+  support::Session next(directory);
+  next.platform.userSettings["Version"] = "1.4";
+  std::filesystem::create_directory(directory.path("Wiederherstellung-1.rtf"));
+  const base::Failure noFile = base::fileFailure(base::ErrorNumber::pathFileAccess, next.program.recovery.path());
+  next.platform.expectMessage({.text = noFile.text() + "\nWas wiederhergestellt werden sollte, liegt hier:\n" +
+                                       directory.path("Verworfen-1.rtf"),
+                               .title = "Fehler",
+                               .icon = base::MessageIcon::stop});
+  next.start();
+  EXPECT_TRUE(std::filesystem::is_directory(directory.path("Verworfen-1.rtf")));
 }
 
 }  // namespace
