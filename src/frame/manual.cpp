@@ -1,7 +1,6 @@
 // Where the manual is looked for.
 #include "frame/manual.h"
 
-#include "base/failure.h"
 #include "base/files.h"
 
 namespace frame {
@@ -9,7 +8,7 @@ namespace frame {
 void openManual(const settings::Paths& paths, base::Platform& platform) {
   const std::string shopsOwn = paths.manual();
   const std::string file = base::FileExists(shopsOwn) ? shopsOwn : platform.ownFile("Anleitung.html");
-  if (file.empty()) throw base::Failure(base::ErrorNumber::fileNotFound);
+  if (file.empty()) throw base::fileFailure(base::ErrorNumber::fileNotFound, shopsOwn);
   platform.openFile(file);
 }
 
