@@ -5,9 +5,11 @@
 
 namespace ui {
 
+// NOLINTBEGIN(misc-unused-using-decls): used by whoever includes this
 using qtcore::inShownLines;
 using qtcore::inWrappedLines;
 using qtcore::toQString;
 using qtcore::toUtf8;
+// NOLINTEND(misc-unused-using-decls)
 
 }  // namespace ui
