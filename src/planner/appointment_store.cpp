@@ -10,6 +10,7 @@
 #include "base/failure.h"
 #include "base/files.h"
 #include "base/profile_file.h"
+#include "base/text.h"
 #include "planner/appointment.h"
 #include "settings/settings_files.h"
 
@@ -78,6 +79,8 @@ void Schreibe_neue_Liste(PlannerWindow& window, const std::string& file) {
     window.storedRevisions = revisionsOf(window);
   });
 }
+
+bool comesBack(std::string_view line) { return base::codePointCount(line) < base::kListBuffer; }
 
 std::string listsAsFile(const PlannerWindow& window) {
   base::ItemList present = window.Liste.items;

@@ -128,7 +128,8 @@ void enter(const PlannerParts& parts, std::string line) {
   window.takenOut.clear();
   window.TerminText.text.clear();
   window.TerminText.wantsFocus = true;
-  hint(window, window.SSTab1.current == 0 ? std::string() : "Angelegt: " + lines[row]);
+  if (comesBack(lines[row])) return hint(window, window.SSTab1.current == 0 ? "" : "Angelegt: " + lines[row]);
+  hint(window, "Der Text ist lang: gespeichert werden nur seine ersten 229 Zeichen");
 }
 
 void create(const PlannerParts& parts) {

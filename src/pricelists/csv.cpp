@@ -145,9 +145,7 @@ PriceRow rowOf(const Record& record) {
   if (!record.field(kColumns).empty()) throw refused("Mehr als zwei Spalten.");
   PriceRow row = {std::string(base::withoutOuterBlanks(rowName(record.field(0)))), {}};
   if (leavesNoName(row.name)) throw refused("In der ersten Spalte steht nichts.");
-  if (base::codePointCount(row.name) > kLongestName) {
-    throw refused("Der Name ist zu lang, höchstens 254 Zeichen haben Platz.");
-  }
+  if (base::codePointCount(row.name) > kLongestName) throw refused(std::string(kNameTooLong));
   const std::string price = record.field(1);
   if (row.name == freeRow().name && (price.empty() || price == row.name)) return freeRow();
   row.price = preparedPrice(typedForm(withoutCurrency(price)));

@@ -19,6 +19,7 @@ constexpr bool hasRoom(int rows) { return rows <= 32'000; }
 
 /// Characters of a name that come back from the file.
 inline constexpr std::size_t kLongestName = base::kListBuffer - 1;
+inline constexpr std::string_view kNameTooLong = "Der Name ist zu lang, höchstens 254 Zeichen haben Platz.";
 
 /// The row that keeps a place free.
 calc::PriceRow freeRow();

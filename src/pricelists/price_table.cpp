@@ -83,6 +83,7 @@ bool refusesFields(const PriceTable& table) {
   if (window.txtVersalie.text.empty() || leavesNoName(rowName(window.txtVersalie.text))) {
     return refuse(table, table.kind.nameMissing), true;
   }
+  if (base::codePointCount(window.txtVersalie.text) > kLongestName) return refuse(table, kNameTooLong), true;
   if (window.txtpreis.text.empty()) return refuse(table, "Bitte einen Preis eingeben"), true;
   return false;
 }

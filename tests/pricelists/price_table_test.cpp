@@ -68,6 +68,7 @@ TEST_F(PriceEditor, RowsAreAddedInsertedChangedAndDeleted) {
       {[&] { fill("neu", "2.5"), click(window.cmdAdd), click(window.mnuHinzufügen); },
        "10 = 1.25 EUR | 20 = 2.50 EUR | 30 = 3 | neu = 2.50 EUR | neu = 2.50 EUR* | Eintrag: 5/5"},
       {[&] { fill("neu", "x"), click(window.cmdAdd), fill(" ", "1"), click(window.cmdAdd); }, before, 2},
+      {[&] { fill(std::string(255, 'x'), "1"), click(window.cmdAdd); }, before, 1},
       {[&] { fill(std::string("\0x", 2), "1"), click(window.cmdAdd); }, before, 1},
       {[&] { fill("\"\"", "1"), click(window.cmdAdd), click(window.Command1), click(window.cmdDelete); }, before, 3},
       {[&] { select(1), fill("15", ",5"), click(window.Command1); },
