@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/failure.h"
 #include "commands/file_commands.h"
 #include "commands/note_commands.h"
 #include "commands/planner_commands.h"
@@ -28,6 +29,7 @@ struct KeptWork {
   std::function<bool()> isUnsaved;
   std::function<std::uint64_t()> revision;
   std::function<std::string()> bytes;
+  std::function<bool(std::string_view left)> isSound;  // whether a copy is one of this work
   std::string_view recoverQuestion = {};
   std::function<void(const std::string& recovered)> show = {};
   std::function<void()> settle = {};  // asks before it is let go; what has none has a window that asks as it closes
@@ -37,14 +39,16 @@ KeptWork keptText(const editor::OpenDocument& document, const base::RichText& te
   return {.copy = copy,
           .isUnsaved = [&] { return editor::holdsUnsaved(document, text); },
           .revision = [&] { return text.revision(); },
-          .bytes = [&] { return editor::writeRtf(text.document()); }};
+          .bytes = [&] { return editor::writeRtf(text.document()); },
+          .isSound = [](std::string_view left) { return left.starts_with("{\\rtf"); }};
 }
 
 KeptWork keptRows(const pricelists::PriceTableWindow& window, const calc::PriceList& list, editor::RecoveryCopy& copy) {
   return {.copy = copy,
           .isUnsaved = [&] { return pricelists::holdsUnsavedRows(window); },
           .revision = [&] { return pricelists::revision(window); },
-          .bytes = [&] { return pricelists::rowsAsFile(window, list); }};
+          .bytes = [&] { return pricelists::rowsAsFile(window, list); },
+          .isSound = [&](std::string_view left) { return pricelists::holdsRows(left, list); }};
 }
 
 KeptWork keptLettering(Program& program) {
@@ -86,6 +90,7 @@ KeptWork keptAppointments(Program& program) {
       .isUnsaved = [&] { return window.isRead && planner::isUnsaved(window); },
       .revision = [&] { return planner::revision(window); },
       .bytes = [&] { return planner::listsAsFile(window); },
+      .isSound = planner::holdsAppointments,
       .recoverQuestion = "Sollen die nicht gespeicherten Termine wiederhergestellt werden?",
       .show = [&](const std::string& recovered) { commands::showRecoveredAppointments(partsOf(program), recovered); }};
 }
@@ -143,6 +148,15 @@ bool isAnsweredFor(Program& program, const KeptWork& kept) {
   return isAnswered;
 }
 
+// Rubbish taken back would replace what is stored.
+std::string soundCopy(const KeptWork& kept) {
+  std::string left = kept.copy.read();
+  if (kept.isSound(left)) return left;
+  throw base::Failure(base::ErrorNumber::badFormat,
+                      "Was beim letzten Mal nicht gespeichert war, lässt sich nicht wiederherstellen, denn die "
+                      "Sicherungskopie ist beschädigt.");
+}
+
 void offer(Program& program, const KeptWork& kept, const std::string& left) {
   const base::MessageAnswer answer = program.platform.messageBox(
       {.text = std::string("Tessik wurde beim letzten Mal nicht ordentlich beendet.\r\n").append(kept.recoverQuestion),
@@ -167,7 +181,7 @@ base::Failure toldWithPlace(const base::Failure& failure, const std::string& pat
 void offerRecovered(Program& program, const KeptWork& kept) {
   if (!kept.copy.adopt()) return;
   try {
-    offer(program, kept, kept.copy.read());
+    offer(program, kept, soundCopy(kept));
   } catch (const std::exception& fault) {
     throw toldWithPlace(base::asFailure(fault), kept.copy.putAside());
   }

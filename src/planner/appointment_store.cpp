@@ -90,6 +90,11 @@ std::string listsAsFile(const PlannerWindow& window) {
   return file.bytes();
 }
 
+bool holdsAppointments(std::string_view lists) {
+  const base::ProfileFile file = base::ProfileFile::parse(std::string(lists));
+  return !sortedSection(file, kPresent).empty() || !sortedSection(file, kOld).empty();
+}
+
 void storeLists(const std::string& file, std::string_view lists) {
   const base::ProfileFile read = base::ProfileFile::parse(std::string(lists));
   base::ProfileFile profile = base::ProfileFile::load(file);

@@ -23,6 +23,8 @@ void Schreibe_neue_Liste(PlannerWindow& window, const std::string& file);
 [[nodiscard]] std::string listsAsFile(const PlannerWindow& window);
 /// Whether the file gives all of a line back.
 [[nodiscard]] bool comesBack(std::string_view line);
+/// Whether such bytes hold an appointment.
+[[nodiscard]] bool holdsAppointments(std::string_view lists);
 /// Puts the lists of such bytes into `file`, in place of those that it holds: another program may have written them
 /// since, so they stay as a copy beside it.
 void storeLists(const std::string& file, std::string_view lists);

@@ -401,6 +401,10 @@ std::string rowsAsFile(const PriceTableWindow& window, const calc::PriceList& li
   return file.bytes();
 }
 
+bool holdsRows(std::string_view file, const calc::PriceList& list) {
+  return !calc::storedRows(base::ProfileFile::parse(std::string(file)), list).empty();
+}
+
 void openPriceTable(const PriceTable& table, const std::string& recovered) {
   PriceTableWindow& window = table.window;
   window.isChanging = window.isWhole = window.isSaved = false;

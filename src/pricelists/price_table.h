@@ -108,6 +108,8 @@ bool holdsUnsavedRows(const PriceTableWindow& window);
 std::uint64_t revision(const PriceTableWindow& window);
 /// The rows as the bytes of a price file that holds this list alone.
 std::string rowsAsFile(const PriceTableWindow& window, const calc::PriceList& list);
+/// Whether such a file holds rows of the list.
+bool holdsRows(std::string_view file, const calc::PriceList& list);
 
 /// The row selected, -1 where there is none.
 int selectedRow(const PriceTableWindow& window);

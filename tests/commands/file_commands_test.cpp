@@ -283,17 +283,26 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
   }
 }
 
-TEST_F(Files, WhatCannotBeTakenBackLiesWhereItIsTold) {
+TEST_F(Files, WhatCannotBeTakenBackReplacesNothingAndLiesWhereItIsTold) {
+  const std::string stored = "[Termine]\r\n0=24.12.2030   14:30       Alt\r\n";
+  directory.write("Termine.ini", stored);
   support::Session next(directory);
   next.platform.userSettings["Version"] = "1.4";
   std::filesystem::create_directory(directory.path("Wiederherstellung-1.rtf"));
+  for (const char* const name : {"Termine-1.ini", "Preise-1.pdb"}) {
+    directory.write(std::string("Wiederherstellung-") + name, "\xFF\xFF");
+  }
   const base::Failure noFile = base::fileFailure(base::ErrorNumber::pathFileAccess, next.program.recovery.path());
   next.platform.expectMessage({.text = noFile.text() + "\nWas wiederhergestellt werden sollte, liegt hier:\n" +
                                        directory.path("Verworfen-1.rtf"),
                                .title = "Fehler",
                                .icon = base::MessageIcon::stop});
+  for (int damaged = 0; damaged < 2; ++damaged) next.platform.expectAnyMessage(MessageAnswer::ok);
   next.start();
   EXPECT_TRUE(std::filesystem::is_directory(directory.path("Verworfen-1.rtf")));
+  EXPECT_TRUE(std::filesystem::exists(directory.path("Verworfen-1.ini")));
+  EXPECT_EQ(directory.read("Termine.ini"), stored);
+  next.end();
 }
 
 }  // namespace
