@@ -179,11 +179,13 @@ TEST_F(Files, TheRecoveryCopiesFollowTheirTextsAndGoWithACleanEnd) {
   session.platform.asideFails = true;
   tick();
   EXPECT_EQ(inFile(copy), "Huber") << "what failed is tried again";
+  EXPECT_NE(session.window.lblHinweis.text, "");
   EXPECT_FALSE(std::filesystem::exists(directory.path(containersCopy)));
   session.platform.asideFails = false;
   saveAs("Huber");
   tick();
   EXPECT_FALSE(std::filesystem::exists(directory.path(copy)));
+  EXPECT_EQ(session.window.lblHinweis.text, "");
   session.write("Meier");
   container.replaceSelection("Notiz");
   tick();
@@ -192,6 +194,23 @@ TEST_F(Files, TheRecoveryCopiesFollowTheirTextsAndGoWithACleanEnd) {
   session.end();
   EXPECT_FALSE(std::filesystem::exists(directory.path(copy)) ||
                std::filesystem::exists(directory.path(containersCopy)));
+}
+
+TEST_F(Files, TheCopyOfTheAppointmentsHoldsTheOneThatIsBeingEdited) {
+  planner::PlannerWindow& planner = session.program.windows.planner;
+  const auto copied = [&] {
+    session.program.wiring.fire(session.window.tmrSicherung, base::Event::tick);
+    return session.program.appointmentRecovery.read();
+  };
+  session.click(session.window.mnuTerminPlaner);
+  planner.Liste.items.add("24.12.2030   14:30       a");
+  planner.List1.items.add("24.12.2003   14:30       b");
+  planner.Liste.current = 0;
+  session.program.wiring.fire(planner.Liste, base::Event::doubleClick);
+  const std::string edited = "[Termine]\r\n0=24.12.2030   14:30       a\r\n";
+  EXPECT_EQ(copied(), edited + "[TermineAlt]\r\n0=24.12.2003   14:30       b\r\n");
+  planner.List1.items.removeAt(0);
+  EXPECT_EQ(copied(), edited);
 }
 
 TEST_F(Files, TheManualIsTheShopsOwnOrOurs) {
@@ -218,6 +237,9 @@ TEST_F(Files, OfSeveralCopiesTheNewestIsTakenWhoseProgramIsGone) {
   session.program.recovery.putAside();
   EXPECT_FALSE(session.program.recovery.adopt()) << "the other program still needs its own";
   ::kill(running, SIGKILL);
+  siginfo_t ended{};
+  ::waitid(P_PID, static_cast<id_t>(running), &ended, WEXITED | WNOWAIT);
+  EXPECT_TRUE(session.program.recovery.adopt()) << "ended, though nobody has noticed yet";
   ::waitpid(running, nullptr, 0);
 }
 
@@ -230,7 +252,7 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
       {"1.rtf", "{\\rtf1 Huber}", "Soll der nicht gespeicherte Text wiederhergestellt werden?"},
       {"Container-1.rtf", "{\\rtf1 Notiz}",
        "Soll der nicht gespeicherte Text im Text-Container wiederhergestellt werden?"},
-      {"Termine-1.ini", "[Termine]\n0=24.12.2030   14:30       Neu\n",
+      {"Termine-1.ini", "[Termine]\n0=24.12.2030   14:30       Neu\n[TermineAlt]\n0=24.12.2003   14:30       Alt\n",
        "Sollen die nicht gespeicherten Termine wiederhergestellt werden?"},
       {"Folien-1.pdb", "[Folien]\n0=Matt\n[FPreise]\n0=9 EUR\n",
        "Sollen die nicht gespeicherten Änderungen an der Folienliste wiederhergestellt werden?"},
@@ -256,6 +278,7 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
     if (isFirstWanted) {
       next.platform.expectModal("frmData", [&](base::Window& editor) {
         EXPECT_EQ(windows.priceEditor.List2.items[0], "        1.25 EUR");
+        EXPECT_TRUE(windows.priceEditor.lblHinweis.visible) << "not saved yet";
         // From here on nobody can be asked: what is not saved stays for the next start.
         windows.eachWindow([](base::Window& each) { each.mayAsk = false; });
         program.wiring.fire(editor, base::Event::closing);
@@ -267,7 +290,7 @@ TEST_F(Files, WhatAnotherProcessLeftIsOfferedOnce) {
     EXPECT_EQ(windows.container.rtfTextC.plainText(), isFirstWanted ? "" : "Notiz");
     EXPECT_EQ(next.window.mnuContainerLook.enabled, !isFirstWanted);
     EXPECT_EQ(windows.rollGoods.lblPreis.text, isFirstWanted ? "" : "0,00 EUR");
-    EXPECT_EQ(windows.planner.Liste.items.size(), isFirstWanted ? 1 : 0);
+    EXPECT_EQ(windows.planner.Liste.items.size() + windows.planner.List1.items.size(), isFirstWanted ? 2 : 0);
     EXPECT_EQ(inFile(isFirstWanted ? "Verworfen-1.rtf" : "Verworfen-2.rtf"), isFirstWanted ? "Notiz" : "Huber");
     EXPECT_EQ(directory.read("Termine.ini.1"), stored) << "another program may have written it since";
     windows.eachWindow([](base::Window& each) { each.mayAsk = false; });
@@ -303,6 +326,16 @@ TEST_F(Files, WhatCannotBeTakenBackReplacesNothingAndLiesWhereItIsTold) {
   EXPECT_TRUE(std::filesystem::exists(directory.path("Verworfen-1.ini")));
   EXPECT_EQ(directory.read("Termine.ini"), stored);
   next.end();
+}
+
+TEST_F(Files, WhatNobodyAnsweredStaysForTheNextStart) {
+  directory.write("Wiederherstellung-1.rtf", "{\\rtf1 Huber}");
+  support::Session next(directory);
+  next.platform.userSettings["Version"] = "1.4";
+  next.platform.onMessage = [&] { next.window.mayAsk = false; };
+  next.platform.expectAnyMessage(MessageAnswer::no);
+  next.start();
+  EXPECT_EQ(next.program.recovery.read(), "{\\rtf1 Huber}");
 }
 
 }  // namespace

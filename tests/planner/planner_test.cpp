@@ -6,6 +6,7 @@
 #include "base/profile_file.h"
 #include "commands/planner_commands.h"
 #include "lifecycle/restored_data.h"
+#include "lifecycle/unsaved_work.h"
 #include "planner/appointment.h"
 #include "planner/appointment_store.h"
 #include "support/session.h"
@@ -183,6 +184,7 @@ TEST(Planner, appointmentsAreMovedAndRemovedInTheListOnTop) {
   window.Liste.current = 1;
   planner.click(window.cmdMove);
   EXPECT_NE(planner.file().find("[TermineAlt]\n0=02"), std::string::npos);
+  EXPECT_EQ(window.Liste.current, -1);
   window.Liste.current = 1;
   planner.click(window.mnuLöschen);
   EXPECT_EQ(window.Liste.current, 0);
@@ -214,6 +216,10 @@ TEST(Planner, appointmentsAreMovedAndRemovedInTheListOnTop) {
                                  MessageAnswer::yes);
   planner.click(window.mnClearAll);
   EXPECT_EQ(planner.file(), "");
+  window.Liste.items.assign({"a"}), window.List1.items.assign({"b", "c"});
+  window.List1.current = 0;
+  moveToOld(window, 0);
+  EXPECT_EQ(window.List1.current, 1) << "the same one";
 }
 
 TEST(Planner, missedAppointmentsAreAnnouncedInOrderWithTheFixedChime) {
@@ -303,14 +309,21 @@ TEST(Planner, whatNobodyReadIsAnnouncedAgain) {
   planner.expectReminder("Termin am 24.12.2004 um 14:31 Uhr a", [&] { planner.planner.mayAsk = false; });
   planner.tick();
   EXPECT_EQ(planner.file(), written) << "the desktop has ended the program";
+  planner.clock(24, 14, 34);
+  planner.expectMissed("Termin am 24.12.2004 um 14:31 Uhr", "a");
+  planner.tick();
+  EXPECT_EQ(planner.file(), written) << "nor is a missed one answered for";
 
   Planner later(directory);
   later.platform.userSettings["TermineBeimStart"] = "1";
   later.clock(24, 14, 32);
   later.expectMissed("Termin am 24.12.2004 um 14:31 Uhr", "a");
   later.expectMissed("Termin am 24.12.2004 um 14:31 Uhr", "b");
+  later.platform.onMessage = [&] { later.clock(24, 14, 35); };
   commands::checkAppointments(later.parts);
   EXPECT_TRUE(later.planner.Timer1.running);
+  later.expectMissed("Termin am 24.12.2004 um 14:33 Uhr", "c");
+  later.tick();
 }
 
 TEST(Planner, aBackupTakesWhatIsLoadedAndARestoreFillsItAnew) {
@@ -347,8 +360,13 @@ TEST(Planner, whatCannotBeWrittenOrReadIsNotLost) {
   later.platform.expectAnyMessage(MessageAnswer::ok);
   later.click(later.window.mnuTerminPlaner);
   EXPECT_TRUE(later.program.windows.planner.lblHinweis.visible);
+  later.program.windows.planner.Liste.items.add(line("01.01.2030   10:00", "a"));
+  lifecycle::keepRecoveryCopies(later.program);
+  EXPECT_EQ(support::filesOf(directory).size(), 2) << "what was not read is not to be replaced at the next start";
   std::filesystem::remove(directory.path("Termine.ini"));
   directory.write("Termine.ini", "[Termine]\n0=x");
+  later.program.windows.planner.mayAsk = false;
+  later.platform.expectAnyMessage(MessageAnswer::ok);
   later.program.wiring.fire(later.program.windows.planner, Event::closing);
   EXPECT_EQ(directory.read("Termine.ini"), "[Termine]\n0=x");
 }

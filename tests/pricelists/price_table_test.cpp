@@ -149,6 +149,12 @@ TEST_F(PriceEditor, AListThatWasNotReadWholeIsNeverWritten) {
       },
       broken);
   EXPECT_EQ(directory.read("Tessik.pdb"), broken);
+  session.platform.expectAnyMessage(MessageAnswer::ok);
+  session.platform.expectModal("frmData", [this](base::Window&) {
+    EXPECT_TRUE(holdsUnsavedRows(window)) << "what was recovered is whole";
+    session.platform.close(window);
+  });
+  commands::editRecoveredPrices(session.parts, "[Versalien]\n0=10\n[Preise]\n0=1\n");
 }
 
 TEST_F(PriceEditor, ClosingAsksOnceAndAFailedSaveLosesNothing) {

@@ -149,8 +149,9 @@ TEST_F(Printing, OfTheAppointmentsThoseOnTopArePrinted) {
       shown(lastOf(window.cmdPrint)),
       (Lines{"Tessik 1.4 / Termine" + moment, "01.02.2030   09:00       Zahnarzt|02.01.2030   08:00       Müller||"}));
   window.SSTab1.current = 1;
-  EXPECT_EQ(shown(lastOf(window.cmdPrint)),
+  EXPECT_EQ(shown(lastOf(window.cmdVorschau)),
             (Lines{"Tessik 1.4 / Alte Termine" + moment, "03.02.2004   10:00       alt||"}));
+  EXPECT_EQ(desk.platform.log, Lines{"print"});
 }
 
 TEST_F(Printing, WithoutAPrinterItIsSaid) {

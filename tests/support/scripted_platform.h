@@ -114,7 +114,7 @@ class ScriptedPlatform : public base::Platform {
   base::CharFormat askFont(const base::CharFormat& /*present*/) override { return answered(font); }
   std::optional<base::Rgb> askColour(std::optional<base::Rgb> /*present*/) override { return answered(colour); }
   [[nodiscard]] bool hasPrinter() override { return printers > 0; }
-  void print(const base::PrintJob& job) override { printed.push_back(job); }
+  void print(const base::PrintJob& job) override { printed.push_back(job), log.emplace_back("print"); }
   void printPreview(const base::PrintJob& job) override { printed.push_back(job); }
   void printerSetUp() override { log.emplace_back("printer"); }
   [[nodiscard]] std::string pdf(const base::PrintJob& job) override { return printed.push_back(job), job.title; }

@@ -88,7 +88,9 @@ TEST(Walk, AnAppointmentIsEnteredWatchedAndAnnounced) {
     EXPECT_TRUE(dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     for (const Qt::Key typed : {Qt::Key_A, Qt::Key_Space}) QTest::keyClick(dialog.focusWidget(), typed);
     EXPECT_TRUE(dialog.isVisible()) << "in the middle of a text";
-    QTest::mouseClick(dialog.findChild<QPushButton*>("command1"), Qt::LeftButton);
+    QTest::qWait(1100);
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible()) << "after a pause";
   });
   walk.now.hour = 12, walk.now.minute = 7;
   EXPECT_TRUE(QTest::qWaitFor([&] { return shop.file("Termine.ini") == "[TermineAlt]\r\n" + kept; }));
@@ -109,6 +111,7 @@ TEST(Walk, ThePlannerAsksAtTheEndAndChecksAtTheNextStart) {
     walk.fill("TerminText", QString(5000, 'W'));
     walk.whenAsked([](QDialog& dialog) {
       EXPECT_LT(dialog.height(), 700);
+      EXPECT_TRUE(dynamic_cast<QMessageBox&>(dialog).text().endsWith("hinzugefügt, möchten Sie ihn verwerfen?"));
       QTest::keyClick(&dialog, Qt::Key_Escape);
     });
     walk.click("Ende");

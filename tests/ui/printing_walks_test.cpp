@@ -72,12 +72,20 @@ TEST(PrintingWalk, ListsAndPagesAreSeenBeforeTheyArePrinted) {
   const Shop shop;
   Walk walk(shop);
   walk.type("Auto");
-  walk.whenAsked([](QDialog& preview) {
-    EXPECT_EQ(dynamic_cast<QPrintPreviewDialog&>(preview).printer()->docName(), "Tessik Print Control");
+  walk.whenAsked([&](QDialog& dialog) {
+    auto& preview = dynamic_cast<QPrintPreviewDialog&>(dialog);
+    EXPECT_EQ(preview.printer()->docName(), "Tessik Print Control");
+    QPrinter file;
+    for (const char* const name : {"Auto.pdf", "fehlt/Auto.pdf"}) {
+      file.setOutputFileName(toQString(shop.directory.path(name)));
+      emit preview.paintRequested(&file);
+    }
     preview.reject();
   });
+  walk.expectBox("Das Verzeichnis wurde nicht gefunden.", QMessageBox::Ok);
   walk.press(Qt::Key_D, Qt::AltModifier);
   walk.press(Qt::Key_A);
+  EXPECT_TRUE(pdfText(shop.directory.path("Auto.pdf")).contains("Auto"));
   const std::string file = shop.directory.path("Preise.pdf");
   walk.whenAsked([&](QDialog& editor) {
     walk.whenAsked([&](QDialog& dialog) { chooseFile(dialog, QString::fromStdString(file)); });

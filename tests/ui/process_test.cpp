@@ -120,8 +120,11 @@ TEST(OtherPrograms, GetTheirFilesAndMayFail) {
   EXPECT_TRUE(player.open(chime));
   player.play();
   EXPECT_TRUE(QTest::qWaitFor([&] { return directory.read("told") == chime + "|"; }));
-  directory.write("xdg-email", "#!/bin/sh\nexit 3\n");
+  for (const char* const name : {"xdg-email", "xdg-open"}) directory.write(name, "#!/bin/sh\nexit 3\n");
   EXPECT_THROW(composeMail("", ""), base::Failure);
+  EXPECT_THROW(showFile(""), base::Failure);
+  std::filesystem::remove(directory.path("xdg-open"));
+  EXPECT_THROW(showFile(""), base::Failure);
   qputenv("PATH", path), qputenv("XDG_RUNTIME_DIR", runtime);
 }
 
