@@ -164,6 +164,7 @@ bool mayDiscardText(const PlannerParts& parts) {
 void write(const PlannerParts& parts) { Schreibe_neue_Liste(parts.window, parts.paths.appointments()); }
 
 void makeOld(const PlannerParts& parts, int row) {
+  hint(parts.window, {});
   moveToOld(parts.window, row);
   write(parts);
 }
@@ -180,7 +181,6 @@ void makeNew(const PlannerParts& parts, const std::string& line) {
 void move(const PlannerParts& parts) {
   const base::ListBox& list = parts.window.shownList();
   if (!list.items.holds(list.current)) return hint(parts.window, kNoneSelected);
-  hint(parts.window, {});
   if (&list == &parts.window.Liste) return makeOld(parts, list.current);
   makeNew(parts, std::string(list.items[list.current]));
 }
